@@ -1,0 +1,51 @@
+#include "dice_stats.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "arithmetic.h"
+#include "dice_log.h"
+
+namespace core {
+namespace {
+
+constexpr int kFullBar = 300;     // pixels
+constexpr int kMarkerRoom = 220;  // pixels for the marker of the sum 7 before the scale has to shrink
+
+}  // namespace
+
+double TheoryShare(int sum) {
+  constexpr double kShares[] = {16.66, 13.88, 11.11, 8.33, 5.55, 2.77};  // by the distance from 7
+  return kShares[std::clamp(std::abs(sum - 7), 0, 5)];
+}
+
+void ComputeDiceFigures(Game& game) {
+  CountTotalRolls(game);
+  game.MaxDiceCount = *std::max_element(game.DiceCount.begin() + kLowestSum, game.DiceCount.end());
+  for (std::size_t sum = kLowestSum; sum <= kHighestSum; ++sum) {
+    const float count = game.DiceCount[sum];
+    const bool none = count == 0 || game.TotalRolls == 0;
+    game.DicePercent[sum] = none ? 0 : count * 100 / static_cast<float>(game.TotalRolls);
+  }
+}
+
+int ChartBarUnit(const Game& game) {
+  if (game.MaxDiceCount <= 0) return kFullBar;
+  const int unit = kFullBar / game.MaxDiceCount;
+  if (ChartMarkerLength(game, unit, 7) <= kMarkerRoom) return unit;
+  return static_cast<int>(WholeDivide(kMarkerRoom * 100, game.TotalRolls * TheoryShare(7)));
+}
+
+long long ChartMarkerLength(const Game& game, int barUnit, int sum) {
+  return WholeDivide(static_cast<double>(game.TotalRolls) * barUnit * TheoryShare(sum), 100);
+}
+
+bool IsAboveShare(const Game& game, int sum) {
+  return game.DicePercent[static_cast<std::size_t>(sum)] > static_cast<float>(TheoryShare(sum));
+}
+
+long long EventPercent(const Game& game, int face) {
+  return WholeDivide(game.EventCount[static_cast<std::size_t>(face)] * 100.0, game.TotalRolls);
+}
+
+}  // namespace core

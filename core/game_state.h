@@ -1,0 +1,126 @@
+// The one game in memory, the settings, the roll being entered and the language: plain records, grouped by how long
+// they live. Every rule and every drawing starts from them; nothing tells anybody of a change. Numbers are 16 bits and
+// signed; a game file may bring any such number, so whoever uses one as an index checks it.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "flags.h"
+
+namespace core {
+
+inline constexpr int kSeats = 6;  ///< seats 1 to 6
+inline constexpr int kDefaultPlayers = 4;
+inline constexpr int kLowestSum = 2;  ///< of two dice
+inline constexpr int kHighestSum = 12;
+inline constexpr int kEventFaces = 4;
+inline constexpr int kShipFace = 4;       ///< the face of the event die that brings the barbarians nearer
+inline constexpr int kLoggedRolls = 500;  ///< entries 1 to 500 of the log
+inline constexpr int kTexts = 118;        ///< texts 1 to 118 of a language
+inline constexpr int kTextRoom = 200;
+inline constexpr int kLanguageRoom = 10;  ///< languages that can be listed
+
+/// The kind of game; its number is the victory points with which a player starts. Files may bring others.
+inline constexpr std::int16_t kBaseGame = 2;
+inline constexpr std::int16_t kFirstExpansion = 3;
+
+/// What `Languages[0]` holds as long as no language was chosen.
+inline constexpr const char* kNoLanguageYet = "Select";
+
+struct TPlayer {
+  std::string Name;
+  std::int16_t Settlements = 0;
+  std::int16_t Cities = 0;
+  bool LongestRoad = false;
+  bool LargestArmy = false;
+  bool PoliticsMetropolis = false;
+  bool TradeMetropolis = false;
+  bool ScienceMetropolis = false;
+  std::int16_t BonusPoints = 0;
+  bool Merchant = false;
+  bool Active = false;
+
+  bool operator==(const TPlayer&) const = default;
+};
+
+/// One logged roll; all zero is an unused entry.
+struct TRoll {
+  std::int16_t Die1 = 0;
+  std::int16_t Die2 = 0;
+  std::int16_t EventDie = 0;
+
+  bool operator==(const TRoll&) const = default;
+};
+
+/// Theoretical share of each sum in percent, with one decimal, as the figures show it.
+inline constexpr std::array<float, 13> DiceProbability{0,     0,     2.8F,  5.6F, 8.3F, 11.1F, 13.9F,
+                                                       16.7F, 13.9F, 11.1F, 8.3F, 5.6F, 2.8F};
+
+/// What a game file holds and what is derived from it. Index 0 of the arrays holds no game data.
+struct Game {
+  std::array<TPlayer, kSeats + 1> Players;
+  std::array<std::int16_t, kSeats + 1> PlayerPoints{};
+  std::array<bool, kSeats + 1> LeaderFlag{};
+  std::array<std::int16_t, kHighestSum + 1> DiceCount{};   ///< by sum
+  std::array<std::int16_t, kEventFaces + 1> EventCount{};  ///< by face; 0 counts the rolls without event die
+  std::array<TRoll, kLoggedRolls + 1> DiceLog;
+  std::array<TRoll, kSeats + 1> LegacyRolls;         ///< six records of old game files, at 0 to 5
+  std::array<float, kHighestSum + 1> DicePercent{};  ///< measured share of each sum
+  std::array<std::int16_t, 2> Clock{};               ///< seconds: 0 the game, 1 since the last roll
+  std::int16_t GameType = 0;
+  std::int16_t NumPlayers = 0;
+  std::int16_t WinPoints = 0;
+  CheckValue OptFlottillen;
+  CheckValue OptScenario;
+  std::string GameTitle;
+  std::string GameInfo;
+  bool GameWon = false;
+  std::int16_t CurrentPlayer = 0;  ///< seat of the action dialog
+  std::int16_t DataPlayer = 0;     ///< seat of the data dialog
+  std::int16_t ActionCode = 0;
+  std::int16_t TotalRolls = 0;
+  std::int16_t MaxDiceCount = 0;
+  bool ClockRunning = false;
+  std::string FileVersion;  ///< first line of the game file being loaded
+};
+
+/// What the settings file holds beside names, title and info line.
+struct Settings {
+  bool ShowLast6 = false;
+  bool ShowWinner = false;
+  bool ShowBarbarians = false;
+  CheckValue AutoHG;
+  std::int16_t HG = 0;     ///< background theme, 1 to 3
+  CheckValue SiegAnzeige;  ///< the standing shows: 0 points, 1 counts
+  bool ShowGameTime = false;
+  bool ShowPlayerTime = false;
+  CheckValue Contrast;
+  std::array<std::int16_t, kEventFaces + 1> EventHotkey{};  ///< character code of each face's key
+};
+
+/// The roll being entered, or the last one entered.
+struct Entry {
+  std::int16_t Die1 = 0;
+  std::int16_t Die2 = 0;
+  std::int16_t EventDie = 0;        ///< 0: none chosen
+  std::int16_t DiceEntryStage = 0;  ///< dice entered by key: 0, 1 (`Die1`) or 2 (`Die2` too)
+};
+
+struct Language {
+  std::array<std::string, kTextRoom + 1> Text;           ///< 1 to 118 are filled
+  std::array<std::string, kLanguageRoom + 1> Languages;  ///< 0 the chosen one, 1 to 10 the file's
+};
+
+struct State {
+  core::Game game;
+  core::Settings settings;
+  core::Entry entry;
+  core::Language language;
+  std::int16_t AboutFrame = 0;  ///< step of the about window's running list
+
+  const std::string& Text(int number) const { return language.Text.at(static_cast<std::size_t>(number)); }
+};
+
+}  // namespace core
