@@ -1,0 +1,85 @@
+#include "code_page.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+namespace storage {
+namespace {
+
+// The characters of the bytes 0x80 to 0x9F; all others have the number of their byte.
+constexpr std::array<char32_t, 32> kUpperControls{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                                  0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                                  0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                                  0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+constexpr char32_t kInvalid = 0xFFFFFFFF;
+
+char32_t CharacterOfByte(unsigned char byte) {
+  return byte >= 0x80 && byte <= 0x9F ? kUpperControls[byte - 0x80U] : byte;
+}
+
+void AppendUtf8(std::string& text, char32_t character) {
+  if (character < 0x80) {
+    text += static_cast<char>(character);
+  } else if (character < 0x800) {
+    text += static_cast<char>(0xC0 | (character >> 6));
+    text += static_cast<char>(0x80 | (character & 0x3F));
+  } else {
+    text += static_cast<char>(0xE0 | (character >> 12));
+    text += static_cast<char>(0x80 | ((character >> 6) & 0x3F));
+    text += static_cast<char>(0x80 | (character & 0x3F));
+  }
+}
+
+/// Takes the next character off the text; kInvalid for a broken sequence, of which one byte is taken.
+char32_t TakeCharacter(std::string_view& text) {
+  const auto lead = static_cast<unsigned char>(text.front());
+  const std::size_t length = lead < 0x80 ? 1 : lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 0;
+  if (length == 0 || length > text.size()) {
+    text.remove_prefix(1);
+    return kInvalid;
+  }
+  char32_t character = length == 1 ? lead : lead & (0xFFU >> (length + 1));
+  for (std::size_t i = 1; i < length; ++i) character = (character << 6) | (static_cast<unsigned char>(text[i]) & 0x3FU);
+  text.remove_prefix(length);
+  return character;
+}
+
+std::optional<char> ByteOf(char32_t character) {
+  if (character < 0x80 || (character >= 0xA0 && character <= 0xFF)) return static_cast<char>(character);
+  const auto found = std::find(kUpperControls.begin(), kUpperControls.end(), character);
+  if (found == kUpperControls.end()) return std::nullopt;
+  return static_cast<char>(0x80 + (found - kUpperControls.begin()));
+}
+
+}  // namespace
+
+std::string FromCodePage(std::string_view bytes) {
+  std::string text;
+  text.reserve(bytes.size());
+  for (const char byte : bytes) AppendUtf8(text, CharacterOfByte(static_cast<unsigned char>(byte)));
+  return text;
+}
+
+std::string ToCodePage(std::string_view utf8) {
+  std::string bytes;
+  bytes.reserve(utf8.size());
+  while (!utf8.empty()) bytes += ByteOf(TakeCharacter(utf8)).value_or('?');
+  return bytes;
+}
+
+bool FitsCodePage(std::string_view utf8) {
+  while (!utf8.empty()) {
+    if (!ByteOf(TakeCharacter(utf8))) return false;
+  }
+  return true;
+}
+
+std::string CharacterOf(int code) {
+  if (code < 0 || code > 255) return {};
+  const char byte = static_cast<char>(code);
+  return FromCodePage({&byte, 1});
+}
+
+}  // namespace storage

@@ -1,0 +1,24 @@
+// The program's text files are Windows-1252, one byte a character, on every machine; in memory all text is UTF-8. All
+// 256 bytes survive reading and writing: the five that the code page leaves open stand for the control characters
+// of the same number.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace storage {
+
+/// The text that these bytes of a file hold.
+std::string FromCodePage(std::string_view bytes);
+
+/// The bytes of a text; a character that the code page does not have becomes "?".
+std::string ToCodePage(std::string_view utf8);
+
+/// Whether a file can hold this text as it is.
+bool FitsCodePage(std::string_view utf8);
+
+/// The character with this code, 0 to 255, as text; empty for any other number.
+std::string CharacterOf(int code);
+
+}  // namespace storage
