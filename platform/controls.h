@@ -1,0 +1,186 @@
+// The kinds of control that the forms are made of. Setting a property from code has the same effects as the user's
+// hand: a check box whose value changes runs its click, a text that changes runs its change, an option button that is
+// set clears its siblings.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "control.h"
+
+namespace platform {
+
+enum class Alignment { Left, Right, Centre };
+
+class Label : public Control {
+ public:
+  using Control::Control;
+  Property<std::string> Caption{*this, Aspect::Caption};
+  Alignment Align = Alignment::Left;
+  void Accept(ControlVisitor& visitor) override;
+};
+
+/// A button with a caption, a picture or both, the picture above the caption.
+class CommandButton : public Control {
+ public:
+  using Control::Control;
+  Property<std::string> Caption{*this, Aspect::Caption};
+  Property<Picture> Image{*this, Aspect::Picture};
+  bool Default = false;  ///< the Enter key clicks it, while it can be used
+  bool Cancel = false;   ///< the Esc key clicks it, while it can be used
+  std::function<void()> Click;
+
+  bool TakesFocus() const override { return true; }
+  void UserClick() override {
+    if (Click) Click();
+  }
+  void Accept(ControlVisitor& visitor) override;
+};
+
+class TextBox : public Control {
+ public:
+  using Control::Control;
+  Property<std::string> Text{*this, Aspect::Text};
+  Alignment Align = Alignment::Left;
+  bool ReadOnly = false;
+  bool MultiLine = false;
+  std::function<void()> Change;
+
+  bool TakesFocus() const override { return true; }
+  void PropertyChanged(Aspect aspect) override;
+  void Accept(ControlVisitor& visitor) override;
+};
+
+class CheckBox : public Control {
+ public:
+  using Control::Control;
+  Property<std::string> Caption{*this, Aspect::Caption};
+  Property<int> Value{*this, Aspect::Value};  ///< 0 unticked, 1 ticked
+  std::function<void()> Click;
+
+  bool TakesFocus() const override { return true; }
+  void UserClick() override { Value = 1 - Value; }
+  void PropertyChanged(Aspect aspect) override;
+  void Accept(ControlVisitor& visitor) override;
+};
+
+/// One of several in its container, of which at most one is set.
+class OptionButton : public Control {
+ public:
+  using Control::Control;
+  Property<std::string> Caption{*this, Aspect::Caption};
+  Property<bool> Value{*this, Aspect::Value};
+  std::function<void()> Click;  ///< the button has become the one that is set
+  std::function<void(MouseButton)> MouseUp;
+
+  bool TakesFocus() const override { return true; }
+  void UserClick() override { Value = true; }
+  void PropertyChanged(Aspect aspect) override;
+  void Accept(ControlVisitor& visitor) override;
+};
+
+/// A list with a field into which text can be typed as well.
+class ComboBox : public Control {
+ public:
+  using Control::Control;
+  Property<std::string> Text{*this, Aspect::Text};
+  int ListIndex = -1;            ///< of the entry picked last, -1 for none
+  std::function<void()> Change;  ///< the text has changed
+  std::function<void()> Click;   ///< an entry was picked
+
+  const std::vector<std::string>& List() const { return list_; }
+  /// Empties the list and the text.
+  void Clear();
+  void AddItem(std::string item);
+  /// The user picks an entry; an index outside the list does nothing. The view calls it through the form.
+  void Pick(int index);
+
+  bool TakesFocus() const override { return true; }
+  void PropertyChanged(Aspect aspect) override;
+  void Accept(ControlVisitor& visitor) override;
+
+ private:
+  std::vector<std::string> list_;
+};
+
+class Frame : public Container {
+ public:
+  using Container::Container;
+  Property<std::string> Caption{*this, Aspect::Caption};
+  void Accept(ControlVisitor& visitor) override;
+};
+
+/// A picture or a picture surface: a background picture, and what was drawn over it. Unscaled, from the top left.
+class PictureBox : public Control {
+ public:
+  PictureBox(Container* parent, std::string name, Place place);
+  Property<Picture> Image{*this, Aspect::Picture};
+  Surface Drawing;               ///< in pixels of the box
+  int Border = 0;                ///< width of the frame inside the place, in pixels; 2 is drawn sunken
+  bool Opaque = true;            ///< false: what lies behind shows through
+  std::optional<Colour> Ground;  ///< seen where the picture is not; none: the desktop's own
+  std::function<void(MouseButton)> MouseUp;
+
+  void Accept(ControlVisitor& visitor) override;
+};
+
+/// The bar under the menu: pictures that answer a click with their index, from 1; an entry without picture separates.
+class ToolBar : public Control {
+ public:
+  ToolBar(Container* parent, std::string name, Place place, std::vector<Picture> pictures);
+  std::function<void(int index)> ButtonClick;
+
+  int Count() const { return static_cast<int>(pictures_.size()); }
+  const Picture& Image(int index) const { return pictures_.at(index - 1); }
+  const std::string& ToolTip(int index) const { return toolTips_.at(index - 1); }
+  void SetToolTip(int index, std::string text);
+  void Accept(ControlVisitor& visitor) override;
+
+ private:
+  std::vector<Picture> pictures_;
+  std::vector<std::string> toolTips_;
+};
+
+/// Visits a control as what it is; a view builds its widgets with it.
+class ControlVisitor {
+ public:
+  virtual ~ControlVisitor() = default;
+  virtual void Visit(Label&) = 0;
+  virtual void Visit(CommandButton&) = 0;
+  virtual void Visit(TextBox&) = 0;
+  virtual void Visit(CheckBox&) = 0;
+  virtual void Visit(OptionButton&) = 0;
+  virtual void Visit(ComboBox&) = 0;
+  virtual void Visit(Frame&) = 0;
+  virtual void Visit(PictureBox&) = 0;
+  virtual void Visit(ToolBar&) = 0;
+};
+
+/// Controls of one kind and name, told apart by an index, which starts where the array says.
+template <typename T>
+class ControlArray {
+ public:
+  ControlArray(Container* parent, const std::string& name, std::span<const Place> places, int first = 0)
+      : first_(first) {
+    int index = first;
+    for (const Place& place : places) {
+      controls_.push_back(std::make_unique<T>(parent, name + "(" + std::to_string(index++) + ")", place));
+    }
+  }
+
+  /// The control with this index; throws std::out_of_range for one that does not exist.
+  T& operator()(int index) const { return *controls_.at(static_cast<std::size_t>(index - first_)); }
+  int First() const { return first_; }
+  int Last() const { return first_ + static_cast<int>(controls_.size()) - 1; }
+
+ private:
+  int first_;
+  std::vector<std::unique_ptr<T>> controls_;
+};
+
+}  // namespace platform

@@ -1,0 +1,40 @@
+// Tells a key that is held from one that is pressed again. Window systems repeat a held key as pairs of release and
+// press and mark them only in part; an unmarked repeat shows by its press, which follows its release at once after the
+// key was down for a while. So the release of such a key waits a moment before it counts.
+#pragma once
+
+#include <chrono>
+#include <map>
+#include <optional>
+
+#include "keys.h"
+
+namespace platform {
+
+class KeyTracker {
+ public:
+  using Time = std::chrono::milliseconds;
+  /// A key that was down for less was never repeated: keyboards wait longer before the first repeat.
+  static constexpr Time kRepeatDelay{150};
+  /// How long a release waits for the press of a repeat.
+  static constexpr Time kPatience{20};
+
+  enum class Verdict { Counts, Waits, Repeat };
+
+  /// A key goes down at a time. `Repeat`: it was down all the while, nothing happened.
+  Verdict Press(KeyCode code, Time now, bool markedAsRepeat);
+  /// A key comes up. `Waits`: ask `Expired` after kPatience whether it has come up for good.
+  Verdict Release(KeyCode code, Time now, bool markedAsRepeat);
+  /// Whether the release that waits since `since` still stands: true once, unless a press has taken it back.
+  bool Expired(KeyCode code, Time since);
+  void Forget() { keys_.clear(); }
+
+ private:
+  struct State {
+    Time downSince{};
+    std::optional<Time> releasedAt;
+  };
+  std::map<KeyCode, State> keys_;
+};
+
+}  // namespace platform

@@ -1,0 +1,41 @@
+// What the program needs of the machine beyond its windows, as one small interface: tests put one with scripted
+// answers in its place. All text is UTF-8.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "picture.h"
+
+namespace platform {
+
+enum class Buttons { Ok, YesNo };  ///< of YesNo, No is the default button
+enum class Icon { None, Critical };
+enum class Answer { Ok, Yes, No };
+
+class Services {
+ public:
+  virtual ~Services() = default;
+
+  /// Asks or tells; returns when the user has answered. Nothing reaches a form meanwhile; timers go on. A box without
+  /// a title of its own bears the program's. A YesNo box that is closed otherwise answers No.
+  virtual Answer MessageBox(const std::string& text, const std::string& title = {}, Buttons buttons = Buttons::Ok,
+                            Icon icon = Icon::None) = 0;
+
+  /// A random number, at least 0 and below 1.
+  virtual double Random() = 0;
+
+  /// The folder that holds the running program and the files that stand beside it.
+  virtual std::filesystem::path ProgramFolder() = 0;
+
+  /// The system's decimal separator, "." or "," as a rule.
+  virtual std::string DecimalSeparator() = 0;
+
+  /// The system's language by its two-letter code, "de" or "en".
+  virtual std::string SystemLanguage() = 0;
+
+  /// Ends the process in an orderly way once the current event is done. Status 0: all is well.
+  virtual void Quit(int status) = 0;
+};
+
+}  // namespace platform

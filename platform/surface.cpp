@@ -1,0 +1,41 @@
+#include "surface.h"
+
+#include <utility>
+
+namespace platform {
+
+void Surface::Cls() {
+  steps_.clear();
+  CurrentX = 0;
+  CurrentY = 0;
+  if (OnChange) OnChange();
+}
+
+void Surface::Add(DrawingStep step) {
+  steps_.push_back(std::move(step));
+  if (OnChange) OnChange();
+}
+
+void Surface::Print(std::string text) {
+  Add(TextStep{CurrentX, CurrentY, std::move(text), ForeColor, {FontName, FontSize, FontBold}});
+}
+
+void Surface::PrintAt(double x, double y, std::string text) {
+  CurrentX = x;
+  CurrentY = y;
+  Print(std::move(text));
+}
+
+void Surface::Line(double x1, double y1, double x2, double y2, Colour ink) { Add(LineStep{x1, y1, x2, y2, ink}); }
+
+void Surface::Box(double x1, double y1, double x2, double y2, Colour ink) { Add(BoxStep{x1, y1, x2, y2, ink, false}); }
+
+void Surface::FillBox(double x1, double y1, double x2, double y2, Colour ink) {
+  Add(BoxStep{x1, y1, x2, y2, ink, true});
+}
+
+void Surface::PaintPicture(const Picture& picture, double x, double y) {
+  if (!picture.Empty()) Add(PictureStep{x, y, picture});
+}
+
+}  // namespace platform
