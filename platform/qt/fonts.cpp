@@ -1,0 +1,32 @@
+#include "fonts.h"
+
+#include <QFontDatabase>
+#include <QMap>
+
+namespace platform::qt {
+namespace {
+
+QString FamilyFor(const std::string& name) {
+  static const QMap<QString, QString> kStandIns{
+      {"Verdana", "DejaVu Sans"}, {"Arial", "Liberation Sans"}, {"MS Sans Serif", "Liberation Sans"}};
+  static QMap<QString, QString> chosen;
+  const QString wanted = QString::fromStdString(name);
+  auto found = chosen.find(wanted);
+  if (found == chosen.end()) {
+    const bool there = QFontDatabase::hasFamily(wanted);
+    found = chosen.insert(wanted, there ? wanted : kStandIns.value(wanted, wanted));
+  }
+  return *found;
+}
+
+}  // namespace
+
+QFont ToQt(const Font& font) {
+  constexpr double kPixelsPerPoint = 96.0 / 72.0;
+  QFont result(FamilyFor(font.Name));
+  result.setPixelSize(qMax(1, qRound(font.Size * kPixelsPerPoint)));
+  result.setBold(font.Bold);
+  return result;
+}
+
+}  // namespace platform::qt

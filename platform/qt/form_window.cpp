@@ -1,0 +1,114 @@
+#include "form_window.h"
+
+#include <QCloseEvent>
+#include <QIcon>
+#include <QMenu>
+#include <QTimer>
+
+#include "convert.h"
+#include "fonts.h"
+#include "mnemonic.h"
+#include "shortcut_text.h"
+
+namespace platform::qt {
+namespace {
+
+Qt::WindowFlags FlagsFor(const Form& form, bool isDialog) {
+  Qt::WindowFlags flags = Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+  flags |= isDialog ? Qt::Dialog : (Qt::Window | Qt::WindowMinimizeButtonHint);
+  if (form.HasCloseBox == CloseBox::Present) flags |= Qt::WindowCloseButtonHint | Qt::WindowSystemMenuHint;
+  return flags;
+}
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form, QWidget* owner)
+    : QWidget(owner, FlagsFor(form, owner != nullptr)), form_(form), client_(new ClientWidget(form, this)) {
+  setObjectName(ToQt(form.Name));
+  setFont(qt::ToQt(Font{}));
+  if (form_.MenuBar) BuildMenuBar();
+  const int menuHeight = menuBar_ ? menuBar_->height() : 0;
+  form_.MenuBarHeight = menuHeight * kTwipsPerPixel;
+  const QSize size = ToQt(form_.Position.Get()).size();
+  client_->setGeometry(0, menuHeight, size.width(), size.height());
+  setFixedSize(size.width(), size.height() + menuHeight);
+  widgets_.Build(form_, client_);
+  form_.View = this;
+  FormChanged(Aspect::Title);
+}
+
+FormWindow::~FormWindow() { form_.View = nullptr; }
+
+void FormWindow::BuildMenuBar() {
+  menuBar_ = new QMenuBar(this);
+  menuBar_->setNativeMenuBar(false);
+  QMenu* menu = nullptr;
+  for (MenuItem& item : form_.MenuBar->Items()) {
+    if (item.Level == 0) {
+      menu = menuBar_->addMenu(QString());
+      actions_[&item] = menu->menuAction();
+    } else if (item.Separates()) {
+      menu->addSeparator();
+    } else {
+      actions_[&item] = menu->addAction(QString(), menu, [this, &item] { form_.ClickMenu(item); });
+    }
+    ShowCaption(item);
+  }
+  form_.MenuBar->OnChange = [this](MenuItem& item) { ShowCaption(item); };
+  menuBar_->setGeometry(0, 0, ToQt(form_.Position.Get()).width(), menuBar_->sizeHint().height());
+}
+
+/// The shortcut is shown as text and is none of Qt's own: keys come to the form through its routing only, so none can
+/// slip past its lock.
+void FormWindow::ShowCaption(MenuItem& item) {
+  QAction* action = actions_.value(&item);
+  if (!action) return;
+  const QString shortcut = TextOf(item.Key);
+  const QString caption = ToQt(item.Caption.Get());
+  action->setText(shortcut.isEmpty() ? caption : caption + '\t' + shortcut);
+}
+
+void FormWindow::ControlChanged(Control& control, Aspect aspect) {
+  if (&control == &form_) {
+    FormChanged(aspect);
+  } else {
+    widgets_.Update(control, aspect);
+  }
+}
+
+void FormWindow::FormChanged(Aspect aspect) {
+  if (aspect == Aspect::Title) setWindowTitle(WithoutMnemonic(form_.Caption));
+  if (aspect == Aspect::Picture || aspect == Aspect::Drawing) client_->update();
+}
+
+void FormWindow::FollowVisible(QPoint origin) {
+  if (!form_.Visible) return hide();
+  if (!placed_) {
+    const Place place = form_.Position;
+    move(origin + QPoint(ToPixels(place.Left), ToPixels(place.Top)));
+    placed_ = true;
+  }
+  show();
+  raise();
+  activateWindow();
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();  // the form decides what its close box does
+  form_.PressCloseBox();
+}
+
+void FormWindow::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  if (Control* focus = form_.Focus()) widgets_.Update(*focus, Aspect::Focus);
+  // The window manager adds its frame a moment later.
+  QTimer::singleShot(100, this, [this] { LearnFrame(); });
+}
+
+void FormWindow::LearnFrame() {
+  const QSize frame = frameGeometry().size() - geometry().size();
+  form_.FrameWidth = frame.width() * kTwipsPerPixel;
+  form_.FrameHeight = frame.height() * kTwipsPerPixel;
+}
+
+}  // namespace platform::qt

@@ -1,0 +1,77 @@
+#include "key_codes.h"
+
+#include <QGuiApplication>
+#include <array>
+
+namespace platform::qt {
+namespace {
+
+struct Pair {
+  int qtKey;
+  KeyCode code;
+};
+constexpr Pair kNamedKeys[] = {
+    {Qt::Key_Backspace, kKeyBackspace}, {Qt::Key_Tab, kKeyTab},
+    {Qt::Key_Backtab, kKeyTab},         {Qt::Key_Return, kKeyEnter},
+    {Qt::Key_Enter, kKeyEnter},         {Qt::Key_Escape, kKeyEscape},
+    {Qt::Key_Space, kKeySpace},         {Qt::Key_Shift, kKeyShift},
+    {Qt::Key_Control, kKeyControl},     {Qt::Key_Alt, kKeyAlt},
+    {Qt::Key_Left, kKeyLeft},           {Qt::Key_Up, kKeyUp},
+    {Qt::Key_Right, kKeyRight},         {Qt::Key_Down, kKeyDown},
+};
+
+// The keys of the number pad without NumLock, from 0 to 9.
+constexpr std::array kPadKeys{Qt::Key_Insert, Qt::Key_End,   Qt::Key_Down, Qt::Key_PageDown, Qt::Key_Left,
+                              Qt::Key_Clear,  Qt::Key_Right, Qt::Key_Home, Qt::Key_Up,       Qt::Key_PageUp};
+
+// Scan codes of the top row, "1" to "0", on X11 and Wayland.
+constexpr quint32 kScanOf1 = 10;
+constexpr quint32 kScanOf0 = 19;
+
+bool ScanCodesAreKnown() {
+  static const bool known = QGuiApplication::platformName() == "xcb" || QGuiApplication::platformName() == "wayland";
+  return known;
+}
+
+KeyCode PadCode(int key) {
+  if (key >= Qt::Key_0 && key <= Qt::Key_9) return kKeyNumberPad0 + key - Qt::Key_0;
+  for (std::size_t digit = 0; digit < kPadKeys.size(); ++digit) {
+    if (kPadKeys[digit] == key) return kKeyNumberPad0 + static_cast<int>(digit);
+  }
+  return kKeyUnknown;
+}
+
+KeyCode DigitCode(const QKeyEvent& event) {
+  const quint32 scan = event.nativeScanCode();
+  if (scan >= kScanOf1 && scan <= kScanOf0 && ScanCodesAreKnown())
+    return '0' + static_cast<int>(scan - kScanOf1 + 1) % 10;
+  const bool digit = !ScanCodesAreKnown() && event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9;
+  return digit ? event.key() : kKeyUnknown;
+}
+
+}  // namespace
+
+KeyCode CodeOf(const QKeyEvent& event) {
+  const int key = event.key();
+  if (event.modifiers() & Qt::KeypadModifier) {
+    if (const KeyCode code = PadCode(key)) return code;
+  } else if (const KeyCode code = DigitCode(event)) {
+    return code;
+  }
+  if (key >= Qt::Key_A && key <= Qt::Key_Z) return key;
+  if (key >= Qt::Key_F1 && key <= Qt::Key_F12) return kKeyF1 + key - Qt::Key_F1;
+  for (const Pair& pair : kNamedKeys) {
+    if (pair.qtKey == key) return pair.code;
+  }
+  // An umlaut or accented letter with a key of its own has the number of its character. Other signs would get the
+  // numbers of arrows and function keys.
+  return key >= Qt::Key_Agrave && key <= 0xFF ? key : kKeyUnknown;
+}
+
+Modifiers ModifiersOf(Qt::KeyboardModifiers held) {
+  return {.Shift = held.testFlag(Qt::ShiftModifier),
+          .Control = held.testFlag(Qt::ControlModifier),
+          .Alt = held.testFlag(Qt::AltModifier)};
+}
+
+}  // namespace platform::qt

@@ -1,0 +1,22 @@
+// The pictures of the program as Qt draws them: drawings compiled into the program, and files beside it. A picture is
+// decoded once and kept; a file is decoded again only when it has changed.
+#pragma once
+
+#include <QPainter>
+#include <QPixmap>
+#include <QSize>
+
+#include "../picture.h"
+
+namespace platform::qt {
+
+/// The natural size in pixels; empty for a picture that cannot be loaded.
+QSize SizeOf(const Picture& picture);
+
+/// The picture for a screen with this many device pixels to a pixel; a null pixmap if it cannot be loaded.
+QPixmap PixmapOf(const Picture& picture, qreal devicePixelRatio);
+
+/// Draws the picture at its natural size with its top left corner at the point; nothing if it cannot be loaded.
+void Draw(QPainter& painter, const Picture& picture, QPointF at);
+
+}  // namespace platform::qt

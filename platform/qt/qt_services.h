@@ -1,0 +1,25 @@
+// The services of the machine, by Qt and the standard library.
+#pragma once
+
+#include <random>
+
+#include "../services.h"
+
+namespace platform::qt {
+
+class QtServices : public Services {
+ public:
+  QtServices();
+
+  Answer MessageBox(const std::string& text, const std::string& title, Buttons buttons, Icon icon) override;
+  double Random() override;
+  std::filesystem::path ProgramFolder() override;
+  std::string DecimalSeparator() override;
+  std::string SystemLanguage() override;
+  void Quit(int status) override;
+
+ private:
+  std::mt19937_64 generator_;  ///< seeded once, from the clock
+};
+
+}  // namespace platform::qt

@@ -1,0 +1,70 @@
+#include "replay.h"
+
+#include <QFontMetricsF>
+#include <algorithm>
+#include <cmath>
+
+#include "convert.h"
+#include "fonts.h"
+#include "pictures.h"
+
+namespace platform::qt {
+namespace {
+
+class Player {
+ public:
+  Player(QPainter& painter, double unitsPerPixel) : painter_(painter), units_(unitsPerPixel) {}
+
+  void operator()(const TextStep& step) {
+    painter_.setFont(ToQt(step.Face));
+    painter_.setPen(ToQt(step.Ink));
+    const double ascent = painter_.fontMetrics().ascent();
+    painter_.drawText(At(step.X, step.Y) + QPointF(0, ascent), ToQt(step.Text));
+  }
+
+  void operator()(const LineStep& step) {
+    if (step.X1 == step.X2 || step.Y1 == step.Y2) {
+      painter_.fillRect(Between(step.X1, step.Y1, step.X2, step.Y2), ToQt(step.Ink));
+    } else {
+      painter_.setPen(ToQt(step.Ink));
+      painter_.drawLine(At(step.X1, step.Y1), At(step.X2, step.Y2));
+    }
+  }
+
+  void operator()(const BoxStep& step) {
+    const QRectF box = Between(step.X1, step.Y1, step.X2, step.Y2);
+    if (step.Filled) {
+      painter_.fillRect(box, ToQt(step.Ink));
+    } else {
+      painter_.setPen(ToQt(step.Ink));
+      painter_.setBrush(Qt::NoBrush);
+      painter_.drawRect(box.translated(0.5, 0.5));
+    }
+  }
+
+  void operator()(const PictureStep& step) { Draw(painter_, step.Image, At(step.X, step.Y)); }
+
+ private:
+  /// Counts from a file can put a step anywhere; what lies this far outside is never seen.
+  double Pixel(double unit) const { return std::clamp(unit / units_, -30000.0, 30000.0); }
+  QPointF At(double x, double y) const { return {Pixel(x), Pixel(y)}; }
+
+  /// From one corner up to the other without it, at least one pixel each way.
+  QRectF Between(double x1, double y1, double x2, double y2) const {
+    const QPointF low(Pixel(std::min(x1, x2)), Pixel(std::min(y1, y2)));
+    return {low,
+            QSizeF(std::max(1.0, std::abs(Pixel(x2) - Pixel(x1))), std::max(1.0, std::abs(Pixel(y2) - Pixel(y1))))};
+  }
+
+  QPainter& painter_;
+  double units_;
+};
+
+}  // namespace
+
+void Replay(QPainter& painter, const Surface& surface, double unitsPerPixel) {
+  Player player(painter, unitsPerPixel);
+  for (const DrawingStep& step : surface.Steps()) std::visit(player, step);
+}
+
+}  // namespace platform::qt

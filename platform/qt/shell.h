@@ -1,0 +1,50 @@
+// Shows the forms of a desktop: a window for each form, its timers, and the way of every event from the window system
+// to the model's routing.
+#pragma once
+
+#include <QHash>
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+#include <map>
+#include <memory>
+
+#include "../desktop.h"
+#include "../key_tracker.h"
+#include "form_window.h"
+
+class QKeyEvent;
+
+namespace platform::qt {
+
+class Shell : public QObject {
+ public:
+  /// `mainForm` owns the others' windows. Both outlive the shell.
+  Shell(Desktop& desktop, Form& mainForm);
+  ~Shell() override;
+
+  /// The window of a form; null as long as it was never shown.
+  FormWindow* WindowOf(const Form& form) const;
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  FormWindow& MakeWindow(Form& form);
+  void StartTimers(Form& form);
+  void FormChanged(Form& form, Aspect aspect);
+
+  bool FilterForWindow(FormWindow& window, QEvent& event);
+  bool HandleKey(FormWindow& window, QKeyEvent& event);
+  void PressKey(Form* receiver, const QKeyEvent& event);
+  void ReleaseKey(Form* receiver, const QKeyEvent& event);
+  void WindowDeactivated(FormWindow& window);
+  void RaiseFrontDialog();
+
+  Desktop& desktop_;
+  Form& mainForm_;
+  QPoint origin_;
+  std::map<const Form*, std::unique_ptr<FormWindow>> windows_;
+  KeyTracker keys_;
+};
+
+}  // namespace platform::qt

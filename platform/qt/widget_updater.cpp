@@ -1,0 +1,109 @@
+#include "widget_updater.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+
+#include "button_widget.h"
+#include "convert.h"
+#include "fonts.h"
+#include "mnemonic.h"
+#include "tool_bar_widget.h"
+
+namespace platform::qt {
+namespace {
+
+constexpr int kMarkRoom = 20;  // pixels that the mark of a check box or option button takes
+
+template <typename Widget>
+void SetMarkedCaption(Widget& widget, const std::string& caption) {
+  widget.setText(Wrapped(ToQt(caption), widget.width() - kMarkRoom, widget.font()));
+}
+
+}  // namespace
+
+void WidgetUpdater::Common(Control& control) {
+  switch (aspect_) {
+    case Aspect::Visible: widget_.setVisible(control.Visible); break;
+    case Aspect::Enabled: widget_.setEnabled(control.Enabled); break;
+    case Aspect::ToolTip: widget_.setToolTip(WithoutMnemonic(control.ToolTipText)); break;
+    case Aspect::Place: widget_.setGeometry(ToQt(control.Position.Get())); break;
+    case Aspect::Font: widget_.setFont(ToQt(control.Face.Get())); break;
+    case Aspect::Focus: widget_.setFocus(); break;
+    case Aspect::Picture:
+    case Aspect::Drawing: widget_.update(); break;
+    default: break;
+  }
+}
+
+void WidgetUpdater::Visit(Label& label) {
+  if (aspect_ == Aspect::Caption) static_cast<QLabel&>(widget_).setText(ToQt(label.Caption.Get()));
+  Common(label);
+}
+
+void WidgetUpdater::Visit(CommandButton& button) {
+  if (aspect_ == Aspect::Caption) static_cast<QPushButton&>(widget_).setText(ToQt(button.Caption.Get()));
+  Common(button);
+}
+
+void WidgetUpdater::Visit(TextBox& box) {
+  if (aspect_ == Aspect::Text) {
+    const QString text = ToQt(box.Text.Get());
+    if (box.MultiLine) {
+      static_cast<QPlainTextEdit&>(widget_).setPlainText(text);
+    } else if (auto& line = static_cast<QLineEdit&>(widget_); line.text() != text) {
+      line.setText(text);
+    }
+  }
+  Common(box);
+}
+
+void WidgetUpdater::Visit(CheckBox& box) {
+  auto& widget = static_cast<QCheckBox&>(widget_);
+  if (aspect_ == Aspect::Caption) SetMarkedCaption(widget, box.Caption);
+  if (aspect_ == Aspect::Value) widget.setChecked(box.Value.Get() == 1);
+  Common(box);
+}
+
+void WidgetUpdater::Visit(OptionButton& button) {
+  auto& widget = static_cast<QRadioButton&>(widget_);
+  if (aspect_ == Aspect::Caption) SetMarkedCaption(widget, button.Caption);
+  if (aspect_ == Aspect::Value) widget.setChecked(button.Value);
+  Common(button);
+}
+
+void WidgetUpdater::Visit(ComboBox& box) {
+  auto& widget = static_cast<QComboBox&>(widget_);
+  const QSignalBlocker ownChange(widget);
+  if (aspect_ == Aspect::List) {
+    const QString text = widget.currentText();
+    widget.clear();
+    for (const std::string& item : box.List()) widget.addItem(ToQt(item));
+    widget.setEditText(text);
+  }
+  if (aspect_ == Aspect::Text && widget.currentText() != ToQt(box.Text.Get())) widget.setEditText(ToQt(box.Text.Get()));
+  Common(box);
+}
+
+void WidgetUpdater::Visit(Frame& frame) {
+  if (aspect_ == Aspect::Caption) static_cast<QGroupBox&>(widget_).setTitle(ToQt(frame.Caption.Get()));
+  Common(frame);
+}
+
+void WidgetUpdater::Visit(PictureBox& box) { Common(box); }
+
+void WidgetUpdater::Visit(ToolBar& bar) {
+  if (aspect_ == Aspect::ToolTip) {
+    static_cast<ToolBarWidget&>(widget_).UpdateToolTips();
+  } else {
+    Common(bar);
+  }
+}
+
+}  // namespace platform::qt
