@@ -1,0 +1,177 @@
+#include "f7_dice_entry.h"
+
+#include <array>
+
+#include "../core/dice_entry.h"
+#include "../core/dice_log.h"
+#include "../storage/code_page.h"
+#include "../windows/image_lists.h"
+
+namespace dialogs {
+namespace {
+
+using namespace windows;
+using platform::Place;
+
+constexpr int kColumn = 600;  // twips from one choice to the next, and from one row to the next
+
+template <int Count>
+constexpr std::array<Place, Count> Row(Place first) {
+  std::array<Place, Count> places;
+  for (int i = 0; i < Count; ++i) places[static_cast<std::size_t>(i)] = first.Moved(kColumn * i, 0);
+  return places;
+}
+
+constexpr std::array<Place, 3> Column(Place first) {
+  return {first, first.Moved(0, kColumn), first.Moved(0, 2 * kColumn)};
+}
+
+constexpr int kClientWidth = 5160;
+constexpr int kClientHeight = 2910;
+constexpr auto kBlackDice = Row<6>({120, 120, 495, 495});
+constexpr auto kRedDice = Row<6>({120, 720, 495, 495});
+constexpr auto kEventDice = Row<4>({120, 1320, 495, 495});
+constexpr auto kHotkeys = Row<4>({240, 1920, 255, 255});
+constexpr auto kArrows = Column({3780, 120, 480, 480});
+constexpr auto kChosen = Column({4440, 120, 495, 495});
+constexpr Place kNoOkPlace{120, 2460, 1455, 375};
+constexpr Place kOkPlace{3300, 2460, 1815, 375};
+
+// The rows of picGewurfelt and picPfeil.
+constexpr int kBlackRow = 0;
+constexpr int kRedRow = 1;
+constexpr int kEventRow = 2;
+
+}  // namespace
+
+F7::F7(const windows::Context& context)
+    : Dialog(context, "F7", kClientWidth, kClientHeight),
+      picSW(this, "picSW", kBlackDice),
+      picRW(this, "picRW", kRedDice),
+      picEW(this, "picEW", kEventDice),
+      lblHotkeyShow(this, "lblHotkeyShow", kHotkeys),
+      picPfeil(this, "picPfeil", kArrows),
+      picGewurfelt(this, "picGewurfelt", kChosen),
+      cmdNoOK(this, "cmdNoOK", kNoOkPlace),
+      cmdOK(this, "cmdOK", kOkPlace) {
+  Caption = "Würfeln";
+  cmdNoOK.Caption = "Abbruch (Esc)";
+  cmdNoOK.Cancel = true;
+  cmdNoOK.Click = [this] { F7_cmdNoOK_Click(); };
+  cmdOK.Caption = "OK (Enter)";
+  cmdOK.Default = true;
+  cmdOK.Click = [this] { F7_cmdOK_Click(); };
+  KeyUp = [this](int keyCode, platform::Modifiers) { F7_Form_KeyUp(keyCode); };
+  Close = [this] { F7_cmdNoOK_Click(); };
+  for (int i = 0; i < 6; ++i) {
+    picSW(i).MouseUp = [this, i](platform::MouseButton) { F7_picSW_MouseUp(i); };
+    picRW(i).MouseUp = [this, i](platform::MouseButton) { F7_picRW_MouseUp(i); };
+    picSW(i).Border = picRW(i).Border = 1;
+  }
+  for (int i = 0; i < core::kEventFaces; ++i) {
+    picEW(i).MouseUp = [this, i](platform::MouseButton) { F7_picEW_MouseUp(i); };
+    picEW(i).Border = 1;
+    lblHotkeyShow(i).Face = platform::Font{"Verdana", 9.75, true};
+    lblHotkeyShow(i).Align = platform::Alignment::Centre;
+    lblHotkeyShow(i).Caption = "?";
+  }
+  for (int row = kBlackRow; row <= kEventRow; ++row) {
+    picPfeil(row).Image = kArrow;
+    picPfeil(row).Opaque = false;
+    picGewurfelt(row).Border = 1;
+  }
+}
+
+void F7::SetPictures() {
+  for (int i = 0; i < 6; ++i) {
+    picRW(i).Image = imlW.Image(i + 1);
+    picSW(i).Image = imlW.Image(i + 1 + kBeforeBlackFaces);
+  }
+  for (int i = 0; i < core::kEventFaces; ++i) picEW(i).Image = imlW.Image(i + 1 + kBeforeEventFaces);
+}
+
+void F7::ShowHotkeys() {
+  for (int i = 0; i < core::kEventFaces; ++i) {
+    const int code = state().settings.EventHotkey[static_cast<std::size_t>(i + 1)];
+    lblHotkeyShow(i).Caption = storage::CharacterOf(code);
+  }
+}
+
+void F7::SetCaptions() {
+  Caption = state().Text(76);
+  cmdNoOK.Caption = state().Text(77);
+  cmdOK.Caption = state().Text(78);
+}
+
+void F7::Empty() {
+  picGewurfelt(kBlackRow).Image = imlW.Image(kBlankBlack);
+  picGewurfelt(kRedRow).Image = imlW.Image(kBlankRed);
+  picGewurfelt(kEventRow).Image = imlW.Image(kBlankGrey);
+  cmdOK.Enabled = false;
+  ShowEventRow(core::HasEventDie(state().game));
+}
+
+void F7::ShowEventRow(bool visible) {
+  for (int i = 0; i < core::kEventFaces; ++i) {
+    picEW(i).Visible = visible;
+    lblHotkeyShow(i).Visible = visible;
+  }
+  picPfeil(kEventRow).Visible = visible;
+  picGewurfelt(kEventRow).Visible = visible;
+}
+
+void F7::PrepareDiceDialog() {
+  Empty();
+  core::BeginEntry(state().entry);
+  Open();
+}
+
+void F7::OpenDiceDialogByKey(int value) {
+  Empty();
+  core::BeginEntryWithDigit(state().entry, static_cast<std::int16_t>(value));
+  picGewurfelt(kBlackRow).Image = imlW.Image(value + kBeforeBlackFaces);
+  Open();
+}
+
+void F7::UpdateOk() { cmdOK.Enabled = core::EntryComplete(state()); }
+
+void F7::F7_Form_KeyUp(int keyCode) {
+  const core::Entry& entry = state().entry;
+  switch (core::EnterKey(state(), keyCode)) {
+    case core::Entered::BlackDie: picGewurfelt(kBlackRow).Image = imlW.Image(entry.Die1 + kBeforeBlackFaces); break;
+    case core::Entered::RedDie: picGewurfelt(kRedRow).Image = imlW.Image(entry.Die2); break;
+    case core::Entered::EventFace:
+      picGewurfelt(kEventRow).Image = imlW.Image(entry.EventDie + kBeforeEventFaces);
+      core::RecordRoll(state(), screen());
+      break;
+    case core::Entered::Nothing: break;
+  }
+  UpdateOk();
+}
+
+void F7::F7_picSW_MouseUp(int index) {
+  picGewurfelt(kBlackRow).Image = imlW.Image(index + 1 + kBeforeBlackFaces);
+  state().entry.Die1 = static_cast<std::int16_t>(index + 1);
+  UpdateOk();
+}
+
+void F7::F7_picRW_MouseUp(int index) {
+  picGewurfelt(kRedRow).Image = imlW.Image(index + 1);
+  state().entry.Die2 = static_cast<std::int16_t>(index + 1);
+  UpdateOk();
+}
+
+void F7::F7_picEW_MouseUp(int index) {
+  picGewurfelt(kEventRow).Image = imlW.Image(index + 1 + kBeforeEventFaces);
+  state().entry.EventDie = static_cast<std::int16_t>(index + 1);
+  UpdateOk();
+}
+
+void F7::F7_cmdOK_Click() { core::RecordRoll(state(), screen()); }
+
+void F7::F7_cmdNoOK_Click() {
+  state().entry.DiceEntryStage = 0;
+  Leave();
+}
+
+}  // namespace dialogs

@@ -1,0 +1,15 @@
+// Joins the rooms: the application, the services of the machine, the main window and what shows it.
+#include "mainwindow/main_window.h"
+#include "platform/qt/application.h"
+#include "platform/qt/qt_services.h"
+#include "platform/qt/shell.h"
+#include "windows/image_lists.h"
+
+int main(int, char** arguments) {
+  platform::qt::Application application(arguments[0], "Orvan Begleiter", windows::kProgramIcon);
+  platform::qt::QtServices services;
+  mainwindow::MainWindow window(services);
+  platform::qt::Shell shell(window.Desktop, window.F1);
+  if (window.Load() != mainwindow::Started::Yes) return 1;
+  return application.Run();
+}

@@ -1,0 +1,18 @@
+// The dice chart: a histogram of the sums against their theoretical share, the counts of the event die and the total of
+// the rolls, always drawn whole. Coordinates are pixels of its surface, 609 by 237.
+#pragma once
+
+#include <string>
+
+#include "../core/game_state.h"
+#include "../platform/surface.h"
+
+namespace mainwindow {
+
+/// Light grey of plain text on the chart and on the strip of the last rolls.
+inline constexpr platform::Colour kLightGrey{232, 232, 232};
+
+/// Works out the figures of the game and draws them. `decimalSeparator` is the system's.
+void DrawDiceChart(core::State& state, const std::string& decimalSeparator, platform::Surface& picW);
+
+}  // namespace mainwindow

@@ -1,0 +1,26 @@
+// F1, the main window: its controls at their places. What they do is wired in main_window.cpp.
+#pragma once
+
+#include "../platform/controls.h"
+#include "../platform/form.h"
+#include "../platform/timer.h"
+
+namespace mainwindow {
+
+class F1 : public platform::Form {
+ public:
+  /// The hidden window with the given menu.
+  F1(platform::Desktop& desktop, std::unique_ptr<platform::Menu> menu);
+
+  platform::ToolBar tbrMenu;
+  platform::ControlArray<platform::PictureBox> picSP;      ///< panels of the seats 1 to 6, at 0 to 5
+  platform::ControlArray<platform::PictureBox> picWurfel;  ///< the dice of the last roll: black, red, event
+  platform::PictureBox picW;                               ///< the dice chart
+  platform::PictureBox picInfoLine;                        ///< the last six rolls
+  platform::Timer timSpielzeit;
+
+  /// The dice before any roll.
+  void ShowBlankDice();
+};
+
+}  // namespace mainwindow

@@ -1,0 +1,89 @@
+// The main window with everything that hangs on it: the game in memory, the dialogs, the commands. It is the screen of
+// the rules. Its parts stand in files of their own: start-up, commands' handlers, keys and mouse, the language.
+#pragma once
+
+#include "../core/auto_roll.h"
+#include "../core/game_state.h"
+#include "../core/screen.h"
+#include "../dialogs/f7_dice_entry.h"
+#include "../platform/desktop.h"
+#include "../platform/services.h"
+#include "commands.h"
+#include "f1.h"
+
+namespace mainwindow {
+
+/// How the start-up went.
+enum class Started { Yes, NoLanguage };
+
+class MainWindow : public core::Screen {
+ public:
+  explicit MainWindow(platform::Services& services);
+
+  /// The start-up sequence, up to the shown main window. `NoLanguage`: the language file cannot be used; the user has
+  /// been told and the process has to end with an error.
+  Started Load();
+
+  core::State State;
+  platform::Desktop Desktop;
+  mainwindow::F1 F1;
+  dialogs::F7 F7;
+
+  // core::Screen
+  void DrawDiceStats() override;
+  void DrawPlayerPanels() override;
+  void ShowPlayerPanels() override;
+  void ShowRolledDice() override;
+  void ShowAttack() override;
+  void UnlockMainWindow() override;
+  void CloseDiceDialog() override;
+
+  // One for each menu entry; the tool bar calls the same.
+  void F1_mnuGameNew_Click();
+  void F1_mnuFileLoad_Click();
+  void F1_mnuFileSaveAs_Click();
+  void F1_mnuGameInfo_Click();
+  void F1_mnuFilePrint_Click();
+  void F1_mnuFileQuit_Click();
+  void F1_mnuExtraZS_Click();
+  void F1_mnuSpecialLHS_Click();
+  void F1_mnuExtraDelLastW_Click();
+  void F1_mnuExtraClock_Click();
+  void F1_mnuExtraSettings_Click();
+  void F1_mnuExtraAutoDice_Click();
+  void F1_mnuHelpKeys_Click();
+  void F1_mnuHelpInfo_Click();
+
+ private:
+  // Start-up, in main_window_start.cpp.
+  void SetWorkingFolder();
+  void LoadSettings();
+  void CentreDialogs();
+
+  // The language, in main_window_language.cpp.
+  Started LoadLanguage();
+  void ChooseFirstLanguage();
+  void TellShortBlock(int count);
+  void SetCaptions();
+  void ShowClockCaption();
+
+  // Keys and mouse, in main_window_input.cpp.
+  void WireInput();
+  void F1_tbrMenu_ButtonClick(int index);
+  void F1_Form_KeyUp(platform::KeyCode code, platform::Modifiers with);
+  void F1_picSP_MouseUp(int index, platform::MouseButton button);
+  void F1_picWurfel_MouseUp(platform::MouseButton button);
+  bool KeyOfSeat(int seat);
+  void ClampPoints();
+  void OpenActionDialog(int seat);
+  void PrepareDataDialog(int seat);
+  void AutoRoll(core::EventDieOf command);
+
+  void SaveSettings();
+  void LoadThemeImages(int theme);
+  void CalcPoints();
+
+  platform::Services& services_;
+};
+
+}  // namespace mainwindow

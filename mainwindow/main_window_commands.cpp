@@ -1,0 +1,36 @@
+// What the commands of the main window do, one handler for each menu entry.
+#include "../core/dice_log.h"
+#include "main_window.h"
+
+namespace mainwindow {
+
+void MainWindow::F1_mnuGameNew_Click() {}
+void MainWindow::F1_mnuFileLoad_Click() {}
+void MainWindow::F1_mnuFileSaveAs_Click() {}
+void MainWindow::F1_mnuGameInfo_Click() {}
+void MainWindow::F1_mnuFilePrint_Click() {}
+void MainWindow::F1_mnuFileQuit_Click() { SaveSettings(); }
+void MainWindow::F1_mnuExtraZS_Click() {}
+void MainWindow::F1_mnuSpecialLHS_Click() {}
+
+void MainWindow::F1_mnuExtraDelLastW_Click() {
+  const auto answer = services_.MessageBox(State.Text(106), {}, platform::Buttons::YesNo);
+  if (answer != platform::Answer::No) core::UndoLastRoll(State, *this);
+}
+
+void MainWindow::F1_mnuExtraClock_Click() {
+  State.game.ClockRunning = !State.game.ClockRunning;
+  ShowClockCaption();
+}
+
+void MainWindow::F1_mnuExtraSettings_Click() {}
+void MainWindow::F1_mnuExtraAutoDice_Click() { AutoRoll(core::EventDieOf::Menu); }
+void MainWindow::F1_mnuHelpKeys_Click() {}
+void MainWindow::F1_mnuHelpInfo_Click() {}
+
+void MainWindow::AutoRoll(core::EventDieOf command) {
+  core::AutoRoll(
+      State, *this, [this] { return services_.Random(); }, command);
+}
+
+}  // namespace mainwindow

@@ -1,0 +1,75 @@
+// The dispatch of keys, clicks and tool-bar buttons of the main window.
+#include <algorithm>
+
+#include "../core/dice_entry.h"
+#include "main_window.h"
+
+namespace mainwindow {
+
+using platform::MouseButton;
+
+void MainWindow::WireInput() {
+  for (const Command& command : Commands()) {
+    if (command.Run) (*F1.MenuBar)[command.Menu.Name].Click = [this, run = command.Run] { (this->*run)(); };
+  }
+  F1.tbrMenu.ButtonClick = [this](int index) { F1_tbrMenu_ButtonClick(index); };
+  F1.KeyUp = [this](platform::KeyCode code, platform::Modifiers with) { F1_Form_KeyUp(code, with); };
+  for (int i = F1.picSP.First(); i <= F1.picSP.Last(); ++i) {
+    F1.picSP(i).MouseUp = [this, i](MouseButton button) { F1_picSP_MouseUp(i, button); };
+  }
+  for (int i = F1.picWurfel.First(); i <= F1.picWurfel.Last(); ++i) {
+    F1.picWurfel(i).MouseUp = [this](MouseButton button) { F1_picWurfel_MouseUp(button); };
+  }
+}
+
+void MainWindow::F1_tbrMenu_ButtonClick(int index) {
+  for (const Command& command : Commands()) {
+    if (command.Tool == index && command.Run) return (this->*command.Run)();
+  }
+}
+
+void MainWindow::F1_Form_KeyUp(platform::KeyCode code, platform::Modifiers with) {
+  const int seat = code - platform::kKeyF1 + 1;
+  const bool isSeat = seat >= 1 && seat <= core::kSeats;
+  if (with.Any()) {
+    if (isSeat) PrepareDataDialog(seat);
+    return;
+  }
+  if (isSeat && !KeyOfSeat(seat)) return;
+  if (const int die = core::DieOfKey(code)) F7.OpenDiceDialogByKey(die);
+  ClampPoints();
+}
+
+/// The key of a seat; false if nobody plays there. The first two seats always play.
+bool MainWindow::KeyOfSeat(int seat) {
+  State.game.CurrentPlayer = static_cast<std::int16_t>(seat);
+  if (seat > 2 && !State.game.Players[static_cast<std::size_t>(seat)].Active) return false;
+  OpenActionDialog(seat);
+  return true;
+}
+
+void MainWindow::ClampPoints() {
+  for (std::size_t seat = 1; seat <= core::kSeats; ++seat) {
+    auto& points = State.game.PlayerPoints[seat];
+    points = std::clamp<std::int16_t>(points, 0, 99);
+  }
+}
+
+void MainWindow::OpenActionDialog(int seat) { State.game.CurrentPlayer = static_cast<std::int16_t>(seat); }
+
+void MainWindow::PrepareDataDialog(int seat) { State.game.DataPlayer = static_cast<std::int16_t>(seat); }
+
+void MainWindow::F1_picSP_MouseUp(int index, MouseButton button) {
+  if (button == MouseButton::Right) {
+    PrepareDataDialog(index + 1);
+  } else {
+    OpenActionDialog(index + 1);
+  }
+}
+
+void MainWindow::F1_picWurfel_MouseUp(MouseButton button) {
+  if (button == MouseButton::Left) F7.PrepareDiceDialog();
+  if (button == MouseButton::Right) AutoRoll(core::EventDieOf::Mouse);
+}
+
+}  // namespace mainwindow

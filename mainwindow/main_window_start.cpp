@@ -1,0 +1,55 @@
+// The start-up sequence of the main window; each step relies on those before it.
+#include <filesystem>
+
+#include "../core/arithmetic.h"
+#include "../core/defaults.h"
+#include "main_window.h"
+
+namespace mainwindow {
+namespace {
+
+/// Half of the room left over, in twips.
+int Half(int room) { return room / 2; }
+
+}  // namespace
+
+Started MainWindow::Load() {
+  SetWorkingFolder();
+  F1.MoveTo(0, 0);
+  core::SetBasicDefaults(State);
+  core::SetKeyAndLanguageDefaults(State);
+  core::SetDisplayDefaults(State);
+  LoadSettings();
+  F7.ShowHotkeys();
+  core::BeginWithoutGame(State);
+  F1.picWurfel(2).Visible = false;
+  const Started started = LoadLanguage();
+  if (started != Started::Yes) return started;
+  F7.SetPictures();
+  CentreDialogs();
+  core::StopClocks(State);
+  CalcPoints();
+  ShowPlayerPanels();
+  DrawPlayerPanels();
+  DrawDiceStats();
+  F1.Visible = true;
+  return Started::Yes;
+}
+
+void MainWindow::SetWorkingFolder() {
+  std::error_code ignored;  // where it cannot be entered, the files beside the program cannot be read either
+  std::filesystem::current_path(services_.ProgramFolder(), ignored);
+}
+
+void MainWindow::LoadSettings() {
+  core::SetSettingsDefaults(State);
+  LoadThemeImages(State.settings.HG);
+}
+
+void MainWindow::CentreDialogs() {
+  for (platform::Form* dialog : {static_cast<platform::Form*>(&F7)}) {
+    dialog->MoveTo(Half(F1.Width() - dialog->Width()), Half(F1.Height() - dialog->Height()));
+  }
+}
+
+}  // namespace mainwindow

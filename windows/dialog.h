@@ -1,0 +1,45 @@
+// What all dialogs share: the lock that they put on the main window. A dialog is modal by hand: opening it shows it and
+// disables the main window, and every way out, the close box included, enables it again and hides the dialog.
+#pragma once
+
+#include <string>
+
+#include "../core/game_state.h"
+#include "../core/screen.h"
+#include "../platform/desktop.h"
+#include "../platform/form.h"
+#include "../platform/services.h"
+
+namespace windows {
+
+/// What a dialog works on. All of it outlives the dialog.
+struct Context {
+  core::State& state;
+  core::Screen& screen;
+  platform::Services& services;
+  platform::Desktop& desktop;
+  platform::Form& F1;  ///< the main window
+};
+
+class Dialog : public platform::Form {
+ public:
+  /// A hidden dialog with a client area in twips.
+  Dialog(const Context& context, std::string name, int clientWidth, int clientHeight,
+         platform::CloseBox closeBox = platform::CloseBox::Present)
+      : Form(context.desktop, std::move(name), clientWidth, clientHeight, closeBox), context_(context) {}
+
+ protected:
+  /// Shows the dialog and locks the main window.
+  void Open();
+  /// Unlocks the main window and hides the dialog.
+  void Leave();
+  /// Only unlocks, for a dialog that has work to do before it hides.
+  void Unlock() { context_.F1.Enabled = true; }
+
+  core::State& state() { return context_.state; }
+  core::Screen& screen() { return context_.screen; }
+
+  Context context_;
+};
+
+}  // namespace windows

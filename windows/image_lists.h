@@ -1,0 +1,27 @@
+// The pictures that forms share: image lists addressed from 1, and single drawings.
+#pragma once
+
+#include "../platform/picture.h"
+
+namespace windows {
+
+/// Dice: 1 to 6 red faces, 7 to 12 black faces, 13 to 16 faces of the event die, 17 to 19 blank red, black and grey.
+inline constexpr platform::ImageList imlW{"imlW", 19, 31};
+inline constexpr int kBlankRed = 17;
+inline constexpr int kBlankBlack = 18;
+inline constexpr int kBlankGrey = 19;
+inline constexpr int kBeforeBlackFaces = 6;   ///< the image of black face n is n more
+inline constexpr int kBeforeEventFaces = 12;  ///< the image of event face n is n more
+
+/// Symbols: 1 settlement, 2 city, 3 to 5 politics, trade and science metropolis, 6 merchant, 7 longest road, 8 largest
+/// army, 9 bonus point, 10 city laid waste, 11 any metropolis.
+inline constexpr platform::ImageList imlIcons{"imlIcons", 11, 16};
+
+/// The buttons of the tool bar, without its separators.
+inline constexpr platform::ImageList imlToolbar{"imlToolbar", 11, 16};
+
+/// The program's own icon, and the arrow from a row of dice to the chosen one.
+inline const platform::Picture kProgramIcon{"orvanbeg.svg"};
+inline const platform::Picture kArrow{"arrow.svg"};
+
+}  // namespace windows
