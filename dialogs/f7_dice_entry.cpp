@@ -54,6 +54,7 @@ F7::F7(const windows::Context& context)
       picGewurfelt(this, "picGewurfelt", kChosen),
       cmdNoOK(this, "cmdNoOK", kNoOkPlace),
       cmdOK(this, "cmdOK", kOkPlace) {
+  KeyPreview = true;
   Caption = "Würfeln";
   cmdNoOK.Caption = "Abbruch (Esc)";
   cmdNoOK.Cancel = true;

@@ -15,12 +15,10 @@ void Desktop::Remove(Form& form) {
 }
 
 void Desktop::FormChanged(Form& form, Aspect aspect) {
-  if (aspect == Aspect::Visible) {
-    if (form.Visible) {
-      awaited_ = &form;
-    } else if (awaited_ == &form) {
-      awaited_ = nullptr;
-    }
+  if (form.AcceptsInput()) {
+    awaited_ = &form;
+  } else if (awaited_ == &form) {
+    awaited_ = nullptr;
   }
   if (OnChange) OnChange(form, aspect);
 }

@@ -29,7 +29,8 @@ class Desktop {
   void Activated(Form& form);
 
   /// Whose a key is that arrived at the window of `form`: its own while it takes input; else that of a form that was
-  /// shown just now and has not had the keyboard yet, so that quick typing loses no key; else nobody's (null).
+  /// shown or unlocked just now and has not had the keyboard since, so that quick typing loses no key; else nobody's
+  /// (null).
   Form* KeyReceiver(Form& form) const;
 
  private:

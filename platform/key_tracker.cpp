@@ -3,31 +3,28 @@
 namespace platform {
 
 KeyTracker::Verdict KeyTracker::Press(KeyCode code, Time now, bool markedAsRepeat) {
-  const auto found = keys_.find(code);
-  if (found == keys_.end()) {
-    keys_[code] = {now, std::nullopt};
-    return markedAsRepeat ? Verdict::Repeat : Verdict::Counts;
-  }
-  found->second.releasedAt.reset();
-  return Verdict::Repeat;
+  State& key = keys_[code];
+  const bool typedJustBefore = key.releasedAt && now - *key.releasedAt < kRepeatDelay;
+  const bool repeat = key.isDown || (markedAsRepeat && !typedJustBefore);
+  if (!key.isDown) key.downSince = now;
+  key.isDown = true;
+  key.releasedAt.reset();
+  return repeat ? Verdict::Repeat : Verdict::Counts;
 }
 
 KeyTracker::Verdict KeyTracker::Release(KeyCode code, Time now, bool markedAsRepeat) {
-  if (markedAsRepeat) return Verdict::Repeat;
-  const auto found = keys_.find(code);
-  if (found == keys_.end()) return Verdict::Counts;
-  if (now - found->second.downSince < kRepeatDelay) {
-    keys_.erase(found);
-    return Verdict::Counts;
-  }
-  found->second.releasedAt = now;
-  return Verdict::Waits;
+  State& key = keys_[code];
+  const bool heldLong = key.isDown && now - key.downSince >= kRepeatDelay;
+  if (markedAsRepeat && (heldLong || !key.isDown)) return Verdict::Repeat;
+  key.releasedAt = now;
+  key.isDown = heldLong;  // until it is certain that no repeat follows
+  return heldLong ? Verdict::Waits : Verdict::Counts;
 }
 
 bool KeyTracker::Expired(KeyCode code, Time since) {
-  const auto found = keys_.find(code);
-  if (found == keys_.end() || found->second.releasedAt != since) return false;
-  keys_.erase(found);
+  State& key = keys_[code];
+  if (!key.isDown || key.releasedAt != since) return false;
+  key.isDown = false;
   return true;
 }
 

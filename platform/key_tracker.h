@@ -21,7 +21,8 @@ class KeyTracker {
 
   enum class Verdict { Counts, Waits, Repeat };
 
-  /// A key goes down at a time. `Repeat`: it was down all the while, nothing happened.
+  /// A key goes down at a time. `Repeat`: it was down all the while, nothing happened. Marks are believed only where
+  /// they can be true: of a key typed twice within a millisecond the second stroke is marked wrongly.
   Verdict Press(KeyCode code, Time now, bool markedAsRepeat);
   /// A key comes up. `Waits`: ask `Expired` after kPatience whether it has come up for good.
   Verdict Release(KeyCode code, Time now, bool markedAsRepeat);
@@ -31,8 +32,9 @@ class KeyTracker {
 
  private:
   struct State {
+    bool isDown = false;
     Time downSince{};
-    std::optional<Time> releasedAt;
+    std::optional<Time> releasedAt;  ///< set while a release waits, and after the key came up for good
   };
   std::map<KeyCode, State> keys_;
 };

@@ -22,6 +22,9 @@ class Services {
   virtual Answer MessageBox(const std::string& text, const std::string& title = {}, Buttons buttons = Buttons::Ok,
                             Icon icon = Icon::None) = 0;
 
+  /// Whether the picture is there and can be decoded.
+  virtual bool CanShow(const Picture& picture) = 0;
+
   /// A random number, at least 0 and below 1.
   virtual double Random() = 0;
 

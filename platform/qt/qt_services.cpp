@@ -7,6 +7,7 @@
 
 #include "convert.h"
 #include "mnemonic.h"
+#include "pictures.h"
 
 namespace platform::qt {
 
@@ -29,6 +30,8 @@ Answer QtServices::MessageBox(const std::string& text, const std::string& title,
   box.exec();
   return Answer::Ok;
 }
+
+bool QtServices::CanShow(const Picture& picture) { return !SizeOf(picture).isEmpty(); }
 
 double QtServices::Random() {
   // generate_canonical may round up to 1; a face beyond the last must not come of it.

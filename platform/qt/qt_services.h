@@ -12,6 +12,7 @@ class QtServices : public Services {
   QtServices();
 
   Answer MessageBox(const std::string& text, const std::string& title, Buttons buttons, Icon icon) override;
+  bool CanShow(const Picture& picture) override;
   double Random() override;
   std::filesystem::path ProgramFolder() override;
   std::string DecimalSeparator() override;

@@ -109,17 +109,18 @@ void Shell::FormChanged(Form& form, Aspect aspect) {
 }
 
 bool Shell::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate) {
+    if (auto* form = dynamic_cast<FormWindow*>(watched)) FollowActivation(*form, event->type());
+    return false;
+  }
   const bool onWindow = watched->isWindowType();
   const bool ofInterest = onWindow || event->type() == QEvent::Shortcut || event->type() == QEvent::ShortcutOverride ||
-                          event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate ||
                           event->type() == QEvent::Close;
   FormWindow* window = ofInterest ? FormWindowOf(watched) : nullptr;
   return window && FilterForWindow(*window, *event);
 }
 
 bool Shell::FilterForWindow(FormWindow& window, QEvent& event) {
-  if (event.type() == QEvent::WindowActivate) desktop_.Activated(window.Model());
-  if (event.type() == QEvent::WindowDeactivate) WindowDeactivated(window);
   // An open menu or list has the keyboard and the mouse to itself.
   if (QApplication::activePopupWidget()) return false;
   if (event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease) {
@@ -161,7 +162,8 @@ void Shell::ReleaseKey(Form* receiver, const QKeyEvent& event) {
   });
 }
 
-void Shell::WindowDeactivated(FormWindow& window) {
+void Shell::FollowActivation(FormWindow& window, QEvent::Type type) {
+  if (type == QEvent::WindowActivate) return desktop_.Activated(window.Model());
   // A dialog that opened just now may still get keys through this window; they are not this form's any more.
   if (window.Model().AcceptsInput()) window.Model().ForgetKeys();
 }

@@ -2,7 +2,7 @@
 // to the model's routing.
 #pragma once
 
-#include <QHash>
+#include <QEvent>
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
@@ -37,7 +37,7 @@ class Shell : public QObject {
   bool HandleKey(FormWindow& window, QKeyEvent& event);
   void PressKey(Form* receiver, const QKeyEvent& event);
   void ReleaseKey(Form* receiver, const QKeyEvent& event);
-  void WindowDeactivated(FormWindow& window);
+  void FollowActivation(FormWindow& window, QEvent::Type type);
   void RaiseFrontDialog();
 
   Desktop& desktop_;
