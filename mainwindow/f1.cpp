@@ -27,6 +27,10 @@ constexpr std::array<Place, 6> kPanelPlaces{{{120, 540, 2775, 855},
                                              {5880, 1500, 2775, 855}}};
 constexpr std::array<Place, 3> kDicePlaces{{{8760, 600, 525, 525}, {8760, 1200, 525, 525}, {8760, 1800, 525, 525}}};
 
+// Grounds for light text where a background picture is missing.
+constexpr platform::Colour kWindowGround{24, 36, 48};
+constexpr platform::Colour kPanelGround{32, 48, 62};
+
 constexpr int kClockTick = 1000;  // milliseconds
 
 /// Two groups of commands and the help, with a separator (an empty picture) between them.
@@ -54,7 +58,12 @@ F1::F1(platform::Desktop& desktop, std::unique_ptr<platform::Menu> menu)
   MenuBar = std::move(menu);
   picInfoLine.ToolTipText = "Hier werden (v.l.n.r) die letzten 6 Würfelwerte angezeigt";
   for (int i = picWurfel.First(); i <= picWurfel.Last(); ++i) picWurfel(i).Border = 2;
-  for (int i = picSP.First(); i <= picSP.Last(); ++i) picSP(i).Drawing.FontName = "Arial";
+  for (int i = picSP.First(); i <= picSP.Last(); ++i) {
+    picSP(i).Drawing.FontName = "Arial";
+    picSP(i).Ground = kPanelGround;
+  }
+  Ground = kWindowGround;
+  picW.Ground = picInfoLine.Ground = kPanelGround;
   ShowBlankDice();
 }
 

@@ -3,6 +3,7 @@
 #include "../windows/image_lists.h"
 #include "dice_chart.h"
 #include "last_six.h"
+#include "themes.h"
 
 namespace mainwindow {
 
@@ -46,7 +47,9 @@ void MainWindow::CloseDiceDialog() { F7.Visible = false; }
 
 void MainWindow::CalcPoints() { DrawPlayerPanels(); }
 
-void MainWindow::LoadThemeImages(int) {}
+bool MainWindow::LoadThemeImages(int theme) {
+  return mainwindow::LoadThemeImages(theme, State.settings, services_, F1);
+}
 
 void MainWindow::SaveSettings() {}
 

@@ -80,7 +80,7 @@ class MainWindow : public core::Screen {
   void AutoRoll(core::EventDieOf command);
 
   void SaveSettings();
-  void LoadThemeImages(int theme);
+  bool LoadThemeImages(int theme);
   void CalcPoints();
 
   platform::Services& services_;

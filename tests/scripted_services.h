@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -19,9 +20,10 @@ class ScriptedServices : public platform::Services {
     bool operator==(const Box&) const = default;
   };
 
-  std::vector<Box> Boxes;                ///< the message boxes shown so far
-  std::deque<platform::Answer> Answers;  ///< to the next boxes; then Ok and No
-  std::deque<double> RandomNumbers;      ///< the next ones; then 0
+  std::vector<Box> Boxes;                 ///< the message boxes shown so far
+  std::deque<platform::Answer> Answers;   ///< to the next boxes; then Ok and No
+  std::deque<double> RandomNumbers;       ///< the next ones; then 0
+  std::set<std::string> MissingPictures;  ///< by name
   std::filesystem::path Folder = ORVANBEG_RUN_FOLDER;
   std::string Separator = ",";
   std::string LanguageCode = "de";
@@ -31,6 +33,9 @@ class ScriptedServices : public platform::Services {
                               platform::Icon icon) override {
     Boxes.push_back({text, title, buttons, icon});
     return Next(Answers, buttons == platform::Buttons::Ok ? platform::Answer::Ok : platform::Answer::No);
+  }
+  bool CanShow(const platform::Picture& picture) override {
+    return !MissingPictures.contains(picture.Name) && (picture.IsResource || exists(Folder / picture.Name));
   }
   double Random() override { return Next(RandomNumbers, 0.0); }
   std::filesystem::path ProgramFolder() override { return Folder; }
