@@ -1,0 +1,42 @@
+#include "clock.h"
+
+#include <algorithm>
+
+#include "arithmetic.h"
+#include "points.h"
+#include "seats.h"
+
+namespace core {
+namespace {
+
+constexpr int kSecondsPerMinute = 60;
+constexpr int kSecondsPerHour = 3600;
+
+std::string TwoDigits(int number) { return (number < 10 ? "0" : "") + std::to_string(number); }
+
+}  // namespace
+
+void Tick(Game& game) {
+  if (!game.ClockRunning) return;
+  for (std::int16_t& seconds : game.Clock) seconds = Saturate16(seconds + 1);
+}
+
+std::string ClockText(int seconds) {
+  const int shown = std::max(seconds, 0);
+  const int hours = shown / kSecondsPerHour;
+  const int minutes = shown % kSecondsPerHour / kSecondsPerMinute;
+  return (hours == 0 ? "" : std::to_string(hours) + ":") + TwoDigits(minutes) + ":" +
+         TwoDigits(shown % kSecondsPerMinute);
+}
+
+BoardTotals CountBoard(const Game& game) {
+  BoardTotals totals;
+  for (const TPlayer& player : WithoutPlaceZero(game.Players).first(static_cast<std::size_t>(SeatsPlayed(game)))) {
+    totals.Settlements += player.Settlements;
+    totals.Cities += player.Cities;
+    totals.Metropolises += MetropolisCount(player);
+  }
+  return totals;
+}
+
+}  // namespace core

@@ -1,0 +1,66 @@
+#include "new_game.h"
+
+#include <algorithm>
+
+#include "seats.h"
+
+namespace core {
+namespace {
+
+void TakeChoices(Game& game, const NewGame& chosen) {
+  game.NumPlayers = chosen.NumPlayers;
+  game.GameType = chosen.GameType;
+  game.WinPoints = chosen.WinPoints;
+  game.OptFlottillen = chosen.Flottillen;
+  game.OptScenario = chosen.Scenario;
+  game.GameTitle = chosen.Title;
+  game.GameInfo = chosen.Info;
+  const int seats = SeatsPlayed(game);
+  for (std::size_t seat = 1; seat <= static_cast<std::size_t>(seats); ++seat) {
+    game.Players[seat].Name = chosen.Names[seat];
+  }
+}
+
+void ClearCounts(Game& game) {
+  std::ranges::fill(WithoutPlaceZero(game.DiceCount), std::int16_t{0});
+  std::ranges::fill(WithoutPlaceZero(game.EventCount), std::int16_t{0});
+  // The number of a kind of game is what its starting pieces are worth.
+  std::ranges::fill(WithoutPlaceZero(game.PlayerPoints), game.GameType);
+}
+
+/// The player of a seat with nothing but the pieces of the start; a kind without such a rule leaves the pieces.
+TPlayer AtStart(const TPlayer& before, std::int16_t gameType, bool active) {
+  TPlayer player{.Name = before.Name, .Settlements = before.Settlements, .Cities = before.Cities, .Active = active};
+  if (gameType == kBaseGame) {
+    player.Settlements = 2;
+    player.Cities = 0;
+  } else if (gameType == kFirstExpansion) {
+    player.Settlements = 1;
+    player.Cities = 1;
+  }
+  return player;
+}
+
+}  // namespace
+
+void StartGame(State& state, const NewGame& chosen) {
+  Game& game = state.game;
+  TakeChoices(game, chosen);
+  ClearCounts(game);
+  state.entry.DiceEntryStage = 0;
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    TPlayer& player = game.Players[static_cast<std::size_t>(seat)];
+    player = AtStart(player, game.GameType, seat <= game.NumPlayers);
+  }
+  game.ClockRunning = true;
+  game.Clock = {0, 0};
+}
+
+int ThemeOf(const Game& game) {
+  if (game.OptFlottillen.IsOn()) return 3;
+  if (!game.OptFlottillen.IsOff()) return 0;
+  if (game.GameType == kBaseGame) return 1;
+  return game.GameType == kFirstExpansion ? 2 : 0;
+}
+
+}  // namespace core

@@ -1,0 +1,34 @@
+// The beginning of a game: what the players have chosen takes effect, and all six seats get the pieces with which their
+// kind of game starts.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "game_state.h"
+
+namespace core {
+
+/// What was chosen for a new game.
+struct NewGame {
+  std::int16_t NumPlayers = kDefaultPlayers;
+  std::int16_t GameType = kBaseGame;
+  std::int16_t WinPoints = 0;
+  std::array<std::string, kSeats + 1> Names;  ///< by seat; those above `NumPlayers` are not looked at
+  CheckValue Flottillen;
+  CheckValue Scenario;
+  std::string Title;
+  std::string Info;
+};
+
+/// Begins the game: counts, points, pieces and titles anew, the clocks run from 0, the entry of a roll ends. The log
+/// stays behind the counts, as do `GameWon` and the names of the seats that do not play. Draws nothing and leaves the
+/// theme to the caller. Called by the new-game dialog.
+void StartGame(State& state, const NewGame& chosen);
+
+/// The background theme that belongs to the game: 1 base game, 2 first expansion, 3 with the second expansion; 0 for
+/// a kind that only a file can bring and that has none.
+int ThemeOf(const Game& game);
+
+}  // namespace core

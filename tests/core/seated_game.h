@@ -1,0 +1,28 @@
+// A game for tests of the rules: six seats, each with a name of its own.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "../../core/seats.h"
+
+namespace tests {
+
+inline constexpr std::array<bool core::TPlayer::*, 6> kTitles{
+    &core::TPlayer::LongestRoad,     &core::TPlayer::LargestArmy,       &core::TPlayer::PoliticsMetropolis,
+    &core::TPlayer::TradeMetropolis, &core::TPlayer::ScienceMetropolis, &core::TPlayer::Merchant};
+
+/// Seats "P1" to "P6", of which the first ones play.
+inline core::Game SeatedGame(int players = core::kSeats) {
+  core::Game game;
+  game.NumPlayers = static_cast<std::int16_t>(players);
+  for (int seat = 1; seat <= core::kSeats; ++seat) {
+    core::TPlayer& player = game.Players[static_cast<std::size_t>(seat)];
+    player.Name = "P" + std::to_string(seat);
+    player.Active = seat <= players;
+  }
+  return game;
+}
+
+}  // namespace tests
