@@ -27,6 +27,11 @@ void ComputePoints(Game& game) {
                  [](const TPlayer& player) { return Saturate16(PointsOf(player)); });
 }
 
+void CalcPoints(Game& game, Screen& screen) {
+  ComputePoints(game);
+  screen.DrawPlayerPanels();
+}
+
 void ClampPoints(Game& game) {
   for (std::int16_t& points : WithoutPlaceZero(game.PlayerPoints)) {
     points = std::clamp<std::int16_t>(points, 0, kHighestPoints);

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "game_state.h"
+#include "screen.h"
 
 namespace core {
 
@@ -24,6 +25,9 @@ int MetropolisCount(const TPlayer& player);
 /// `PlayerPoints` of all six seats, playing or not, from their holdings in any kind of game. The panels are to be
 /// drawn afterwards.
 void ComputePoints(Game& game);
+
+/// Works the points out and has the panels drawn. Called after every change of what players hold.
+void CalcPoints(Game& game, Screen& screen);
 
 /// Brings `PlayerPoints` of all six seats to 0 to 99. First step of drawing the panels.
 void ClampPoints(Game& game);

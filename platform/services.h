@@ -31,6 +31,9 @@ class Services {
   /// The folder that holds the running program and the files that stand beside it.
   virtual std::filesystem::path ProgramFolder() = 0;
 
+  /// Today's date in the system's short form.
+  virtual std::string Today() = 0;
+
   /// The system's decimal separator, "." or "," as a rule.
   virtual std::string DecimalSeparator() = 0;
 

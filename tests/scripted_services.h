@@ -39,6 +39,7 @@ class ScriptedServices : public platform::Services {
   }
   double Random() override { return Next(RandomNumbers, 0.0); }
   std::filesystem::path ProgramFolder() override { return Folder; }
+  std::string Today() override { return "22.11.2026"; }
   std::string DecimalSeparator() override { return Separator; }
   std::string SystemLanguage() override { return LanguageCode; }
   void Quit(int status) override { QuitStatus = status; }

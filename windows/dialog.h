@@ -28,6 +28,9 @@ class Dialog : public platform::Form {
          platform::CloseBox closeBox = platform::CloseBox::Present)
       : Form(context.desktop, std::move(name), clientWidth, clientHeight, closeBox), context_(context) {}
 
+  /// Takes title and captions from the language that was loaded.
+  virtual void SetCaptions() = 0;
+
  protected:
   /// Shows the dialog and locks the main window.
   void Open();

@@ -1,6 +1,7 @@
 #include "qt_services.h"
 
 #include <QApplication>
+#include <QDate>
 #include <QLocale>
 #include <QMessageBox>
 #include <chrono>
@@ -40,6 +41,10 @@ double QtServices::Random() {
 }
 
 std::filesystem::path QtServices::ProgramFolder() { return QApplication::applicationDirPath().toStdString(); }
+
+std::string QtServices::Today() {
+  return QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat).toStdString();
+}
 
 std::string QtServices::DecimalSeparator() { return QLocale::system().decimalPoint().toStdString(); }
 

@@ -15,6 +15,7 @@ class QtServices : public Services {
   bool CanShow(const Picture& picture) override;
   double Random() override;
   std::filesystem::path ProgramFolder() override;
+  std::string Today() override;
   std::string DecimalSeparator() override;
   std::string SystemLanguage() override;
   void Quit(int status) override;
