@@ -1,10 +1,9 @@
 #include "f7_dice_entry.h"
 
-#include <array>
-
 #include "../core/dice_entry.h"
 #include "../core/dice_log.h"
 #include "../storage/code_page.h"
+#include "../windows/form_metrics.h"
 #include "../windows/image_lists.h"
 
 namespace dialogs {
@@ -13,27 +12,16 @@ namespace {
 using namespace windows;
 using platform::Place;
 
-constexpr int kColumn = 600;  // twips from one choice to the next, and from one row to the next
-
-template <int Count>
-constexpr std::array<Place, Count> Row(Place first) {
-  std::array<Place, Count> places;
-  for (int i = 0; i < Count; ++i) places[static_cast<std::size_t>(i)] = first.Moved(kColumn * i, 0);
-  return places;
-}
-
-constexpr std::array<Place, 3> Column(Place first) {
-  return {first, first.Moved(0, kColumn), first.Moved(0, 2 * kColumn)};
-}
+constexpr int kPitch = 600;  // twips from one choice to the next, and from one row to the next
 
 constexpr int kClientWidth = 5160;
 constexpr int kClientHeight = 2910;
-constexpr auto kBlackDice = Row<6>({120, 120, 495, 495});
-constexpr auto kRedDice = Row<6>({120, 720, 495, 495});
-constexpr auto kEventDice = Row<4>({120, 1320, 495, 495});
-constexpr auto kHotkeys = Row<4>({240, 1920, 255, 255});
-constexpr auto kArrows = Column({3780, 120, 480, 480});
-constexpr auto kChosen = Column({4440, 120, 495, 495});
+constexpr auto kBlackDice = Repeat<6>({120, 120, 495, 495}, kPitch, 0);
+constexpr auto kRedDice = Repeat<6>({120, 720, 495, 495}, kPitch, 0);
+constexpr auto kEventDice = Repeat<4>({120, 1320, 495, 495}, kPitch, 0);
+constexpr auto kHotkeys = Repeat<4>({240, 1920, 255, 255}, kPitch, 0);
+constexpr auto kArrows = Repeat<3>({3780, 120, 480, 480}, 0, kPitch);
+constexpr auto kChosen = Repeat<3>({4440, 120, 495, 495}, 0, kPitch);
 constexpr Place kNoOkPlace{120, 2460, 1455, 375};
 constexpr Place kOkPlace{3300, 2460, 1815, 375};
 

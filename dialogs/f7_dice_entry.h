@@ -29,7 +29,7 @@ class F7 : public windows::Dialog {
   /// Shows the keys of the event faces; called at start-up and when the settings have changed.
   void ShowHotkeys();
   /// Takes title and captions from the language.
-  void SetCaptions();
+  void SetCaptions() override;
 
  private:
   void Empty();

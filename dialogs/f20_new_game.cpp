@@ -1,0 +1,202 @@
+#include "f20_new_game.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "../core/new_game.h"
+#include "../windows/form_metrics.h"
+#include "../windows/image_lists.h"
+
+namespace dialogs {
+namespace {
+
+using platform::Place;
+using windows::imlGameType;
+using windows::Repeat;
+
+constexpr int kClientWidth = 5760;
+constexpr int kClientHeight = 6510;
+
+constexpr Place kKindFrame{30, 30, 3975, 2325};
+constexpr Place kBasePlace{120, 360, 2295, 255};
+constexpr Place kExpansionPlace{150, 720, 3255, 255};
+constexpr Place kFlottillenPlace{120, 1170, 3135, 255};
+constexpr Place kScenarioPlace{120, 1500, 3135, 255};
+constexpr Place kWinLabelPlace{150, 1950, 1845, 285};
+constexpr auto kWinButtons = Repeat<2>({2100, 1920, 285, 255}, 900, 0);
+constexpr Place kWinPointsPlace{2490, 1890, 435, 285};
+
+constexpr Place kPlayersFrame{30, 2460, 3975, 2865};
+constexpr Place kCountLabelPlace{120, 360, 1935, 255};
+constexpr std::array<Place, 2> kCountButtons{{{2070, 330, 285, 255}, {3000, 330, 285, 255}}};
+constexpr Place kCountPlace{2460, 300, 435, 285};
+constexpr auto kNameLabels = Repeat<6>({150, 750, 1005, 255}, 0, 330);
+constexpr auto kNames = Repeat<6>({1290, 690, 1095, 285}, 0, 330);
+
+constexpr Place kInfoFrame{30, 5430, 3975, 1035};
+constexpr Place kTitleLabelPlace{180, 360, 945, 255};
+constexpr Place kTitlePlace{1290, 300, 2475, 285};
+constexpr Place kInfoLabelPlace{180, 690, 945, 255};
+constexpr Place kInfoPlace{1290, 630, 2475, 285};
+
+constexpr Place kStartPlace{4200, 5550, 1515, 375};
+constexpr Place kCancelPlace{4200, 6000, 1515, 375};
+constexpr auto kStatusPictures = Repeat<4>({4650, 210, 720, 720}, 0, 780);
+
+constexpr int kFewestWinPoints = 2;
+constexpr int kMostWinPoints = 99;
+constexpr int kFewestPlayers = 2;
+constexpr int kMorePlayersFrom = 5;  // with a picture of their own
+
+/// One more or one fewer than the number in a read-only field, within bounds.
+int Stepped(const platform::TextBox& field, int index, int lowest, int highest) {
+  const std::string& text = field.Text.Get();
+  int value = lowest;
+  std::from_chars(text.data(), text.data() + text.size(), value);
+  return std::clamp(value + (index == 1 ? 1 : -1), lowest, highest);
+}
+
+std::int16_t NumberIn(const platform::TextBox& field) {
+  const std::string& text = field.Text.Get();
+  std::int16_t value = 0;
+  std::from_chars(text.data(), text.data() + text.size(), value);
+  return value;
+}
+
+void MakeNumberField(platform::TextBox& field, const char* text) {
+  field.ReadOnly = true;
+  field.Align = platform::Alignment::Centre;
+  field.Text = text;
+}
+
+core::CheckValue Ticked(const platform::CheckBox& box) {
+  return core::CheckValue(static_cast<std::int16_t>(box.Value.Get()));
+}
+
+}  // namespace
+
+F20::F20(const windows::Context& context)
+    : Dialog(context, "F20", kClientWidth, kClientHeight),
+      fraA(this, "fraA", kKindFrame),
+      optA(&fraA, "optA", kBasePlace),
+      optB(&fraA, "optB", kExpansionPlace),
+      chkFlo(&fraA, "chkFlo", kFlottillenPlace),
+      chkSzen(&fraA, "chkSzen", kScenarioPlace),
+      lblSiegbed(&fraA, "lblSiegbed", kWinLabelPlace),
+      cmdA(&fraA, "cmdA", kWinButtons),
+      txtneuSPBed(&fraA, "txtneuSPBed", kWinPointsPlace),
+      fraSetPlayers(this, "fraSetPlayers", kPlayersFrame),
+      lblB(&fraSetPlayers, "lblB", kCountLabelPlace),
+      cmdB(&fraSetPlayers, "cmdB", kCountButtons),
+      txtNOP(&fraSetPlayers, "txtNOP", kCountPlace),
+      lblSpieler(&fraSetPlayers, "lblSpieler", kNameLabels),
+      txtSpielername(&fraSetPlayers, "txtSpielername", kNames),
+      fraSpielInfo(this, "fraSpielInfo", kInfoFrame),
+      lblC(&fraSpielInfo, "lblC", kTitleLabelPlace),
+      txtSpieltitel(&fraSpielInfo, "txtSpieltitel", kTitlePlace),
+      lblD(&fraSpielInfo, "lblD", kInfoLabelPlace),
+      txtSpielinfo(&fraSpielInfo, "txtSpielinfo", kInfoPlace),
+      cmdStart(this, "cmdStart", kStartPlace),
+      cmdCancel(this, "cmdCancel", kCancelPlace),
+      picGameStatus(this, "picGameStatus", kStatusPictures) {
+  Caption = "Neues Spiel erstellen";
+  MakeNumberField(txtneuSPBed, "10");
+  MakeNumberField(txtNOP, "4");
+  cmdA(0).Caption = cmdB(0).Caption = "-";
+  cmdA(1).Caption = cmdB(1).Caption = "+";
+  for (int i = picGameStatus.First(); i <= picGameStatus.Last(); ++i) picGameStatus(i).Opaque = false;
+  WireEvents();
+}
+
+void F20::WireEvents() {
+  for (auto* option : {&optA, &optB}) option->Click = [this] { UpdateGameOptions(); };
+  for (auto* box : {&chkFlo, &chkSzen}) box->Click = [this] { UpdateGameOptions(); };
+  for (int index = 0; index < 2; ++index) {
+    cmdA(index).Click = [this, index] { F20_cmdA_Click(index); };
+    cmdB(index).Click = [this, index] { F20_cmdB_Click(index); };
+  }
+  cmdStart.Click = [this] { F20_cmdStart_Click(); };
+  cmdCancel.Cancel = true;
+  cmdCancel.Click = [this] { Leave(); };
+  Close = [this] { Leave(); };
+}
+
+void F20::SetCaptions() {
+  const struct {
+    platform::Property<std::string>& caption;
+    int text;
+  } rows[] = {{Caption, 2},
+              {fraA.Caption, 97},
+              {optA.Caption, 66},
+              {optB.Caption, 67},
+              {chkFlo.Caption, 68},
+              {chkSzen.Caption, 69},
+              {lblSiegbed.Caption, 70},
+              {fraSetPlayers.Caption, 98},
+              {lblB.Caption, 99},
+              {fraSpielInfo.Caption, 72},
+              {lblC.Caption, 73},
+              {lblD.Caption, 74},
+              {cmdStart.Caption, 100},
+              {cmdCancel.Caption, 77}};
+  for (const auto& [caption, text] : rows) caption = state().Text(text);
+  for (int i = 0; i < core::kSeats; ++i) lblSpieler(i).Caption = state().Text(16) + " " + std::to_string(i + 1);
+}
+
+void F20::OpenNewGame() {
+  txtSpieltitel.Text = context_.services.Today();
+  txtSpielinfo.Text = std::string("Orvan Begleiter");
+  if (!optA.Value && !optB.Value) optA.Value = true;
+  SetFocus(optB.Value ? optB : optA);
+  for (int i = 0; i < core::kSeats; ++i) {
+    txtSpielername(i).Text = state().game.Players[static_cast<std::size_t>(i + 1)].Name;
+  }
+  UpdatePlayerFields(std::clamp<int>(state().game.NumPlayers, kFewestPlayers, core::kSeats));
+  Open();
+}
+
+/// Every click on any of the four controls brings the points to win back to those of the kind of game.
+void F20::UpdateGameOptions() {
+  if (optA.Value) {
+    picGameStatus(0).Image = imlGameType.Image(1);
+    txtneuSPBed.Text = std::string("10");
+  }
+  if (optB.Value) {
+    picGameStatus(0).Image = imlGameType.Image(2);
+    txtneuSPBed.Text = std::string("13");
+  }
+  picGameStatus(1).Image = chkFlo.Value == 1 ? imlGameType.Image(3) : platform::Picture{};
+  picGameStatus(2).Image = chkSzen.Value == 1 ? imlGameType.Image(5) : platform::Picture{};
+}
+
+void F20::UpdatePlayerFields(int count) {
+  txtNOP.Text = std::to_string(count);
+  for (int i = 0; i < core::kSeats; ++i) {
+    lblSpieler(i).Visible = i < count;
+    txtSpielername(i).Visible = i < count;
+  }
+  picGameStatus(3).Image = count >= kMorePlayersFrom ? imlGameType.Image(4) : platform::Picture{};
+}
+
+void F20::F20_cmdA_Click(int index) {
+  txtneuSPBed.Text = std::to_string(Stepped(txtneuSPBed, index, kFewestWinPoints, kMostWinPoints));
+}
+
+void F20::F20_cmdB_Click(int index) { UpdatePlayerFields(Stepped(txtNOP, index, kFewestPlayers, core::kSeats)); }
+
+void F20::F20_cmdStart_Click() {
+  core::NewGame chosen;
+  chosen.NumPlayers = NumberIn(txtNOP);
+  chosen.GameType = optB.Value ? core::kFirstExpansion : core::kBaseGame;
+  chosen.WinPoints = NumberIn(txtneuSPBed);
+  for (int i = 0; i < core::kSeats; ++i) chosen.Names[static_cast<std::size_t>(i + 1)] = txtSpielername(i).Text;
+  chosen.Flottillen = Ticked(chkFlo);
+  chosen.Scenario = Ticked(chkSzen);
+  chosen.Title = txtSpieltitel.Text;
+  chosen.Info = txtSpielinfo.Text;
+  core::StartGame(state(), chosen);
+  Leave();
+  if (Started) Started();
+}
+
+}  // namespace dialogs

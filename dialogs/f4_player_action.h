@@ -1,0 +1,31 @@
+// F4, the action dialog: reports with one key or click what a player has just done at the table, and closes again.
+#pragma once
+
+#include "../windows/dialog.h"
+
+namespace dialogs {
+
+class F4 : public windows::Dialog {
+ public:
+  explicit F4(const windows::Context& context);
+
+  platform::ControlArray<platform::CommandButton> cmdSP;  ///< the actions 1 to 10
+  platform::ControlArray<platform::Label> lblFTaste;      ///< their keys, at 0 to 9
+  platform::CommandButton cmdNix;
+
+  /// Opens the dialog for a seat, 1 to 6. Called by the panels and the keys F1 to F6 of the main window.
+  void OpenActionDialog(int seat);
+  /// Enables the buttons that the kind of game offers. Called whenever the panels are drawn.
+  void OfferActions();
+  /// Gives the buttons their symbols; called once at start-up.
+  void SetPictures();
+  /// Takes the captions from the language; the title is built when the dialog opens.
+  void SetCaptions() override;
+
+ private:
+  void Apply(int actionCode);
+  void F4_cmdSP_Click(int index);
+  void F4_Form_KeyUp(int keyCode);
+};
+
+}  // namespace dialogs

@@ -1,0 +1,93 @@
+#include "f9_standing.h"
+
+#include "../core/ranking.h"
+#include "../windows/form_metrics.h"
+#include "../windows/image_lists.h"
+#include "standing_table.h"
+
+namespace dialogs {
+namespace {
+
+using platform::Place;
+using windows::Repeat;
+
+constexpr int kClientWidth = 8895;
+constexpr int kClientHeight = 3600;
+constexpr Place kHeadlinePlace{990, 240, 7005, 405};
+constexpr std::array<Place, 2> kWinnerPictures{{{60, 30, 825, 825}, {8040, 30, 825, 825}}};
+constexpr auto kHeads = Repeat<8>({4530, 840, 285, 285}, 450, 0);
+constexpr Place kTablePlace{870, 1170, 7215, 1725};
+constexpr std::array<Place, 2> kOptions{{{900, 3300, 4155, 315}, {900, 2940, 4185, 315}}};
+constexpr Place kOkPlace{6930, 3180, 1935, 375};
+
+// The symbols over the columns, by kind of game.
+constexpr std::array<int, 5> kBaseHeads{1, 2, 9, 7, 8};
+constexpr std::array<int, 8> kExpansionHeads{1, 2, 9, 7, 6, 3, 4, 5};
+
+}  // namespace
+
+F9::F9(const windows::Context& context)
+    : Dialog(context, "F9", kClientWidth, kClientHeight),
+      lblSiegertext(this, "lblSiegertext", kHeadlinePlace),
+      picSieger(this, "picSieger", kWinnerPictures),
+      picSymbol(this, "picSymbol", kHeads),
+      picRanking(this, "picRanking", kTablePlace),
+      optWinOrder(this, "optWinOrder", kOptions),
+      cmdOK(this, "cmdOK", kOkPlace) {
+  Caption = "SIEGER !";
+  lblSiegertext.Align = platform::Alignment::Centre;
+  lblSiegertext.Face = platform::Font{"Verdana", 14.25, true};
+  for (int i = picSieger.First(); i <= picSieger.Last(); ++i) {
+    picSieger(i).Image = windows::kWinner;
+    picSieger(i).Opaque = false;
+  }
+  picRanking.Ground = windows::kPaper;
+  cmdOK.Caption = "OK";
+  cmdOK.Default = true;
+  cmdOK.Click = [this] { Leave(); };
+  Close = [this] { Leave(); };
+  optWinOrder(0).Value = true;
+  for (int view = optWinOrder.First(); view <= optWinOrder.Last(); ++view) {
+    // Not on the click: filling the window sets the options itself, and that must not fill it again.
+    optWinOrder(view).MouseUp = [this, view](platform::MouseButton) { F9_optWinOrder_MouseUp(view); };
+    optWinOrder(view).KeyUp = [this, view](platform::KeyCode code, platform::Modifiers) {
+      if (code == platform::kKeySpace) F9_optWinOrder_MouseUp(view);
+    };
+  }
+}
+
+void F9::SetCaptions() { Caption = state().Text(86); }
+
+void F9::ShowStanding() {
+  const std::vector<core::RankedPlayer> ranking = core::RankPlayers(state().game);
+  DrawStandingTable(state(), ranking, picRanking.Drawing);
+  ShowHeadline(ranking.empty() ? std::string() : ranking.front().Name);
+  ShowColumnHeads();
+  SetCaptions();
+  optWinOrder(1).Caption = state().Text(89);
+  optWinOrder(0).Caption = state().Text(90);
+  optWinOrder(state().settings.SiegAnzeige.IsOff() ? 0 : 1).Value = true;
+  Open();
+}
+
+void F9::ShowHeadline(const std::string& firstName) {
+  lblSiegertext.Caption = state().game.GameWon ? firstName + " " + state().Text(88) : state().Text(87);
+}
+
+void F9::ShowColumnHeads() {
+  const std::int16_t gameType = state().game.GameType;
+  if (gameType != core::kBaseGame && gameType != core::kFirstExpansion) return;
+  const bool expansion = gameType == core::kFirstExpansion;
+  for (std::size_t column = 0; column < kExpansionHeads.size(); ++column) {
+    platform::PictureBox& head = picSymbol(static_cast<int>(column));
+    head.Visible = expansion || column < kBaseHeads.size();
+    if (head.Visible) head.Image = windows::imlIcons.Image(expansion ? kExpansionHeads[column] : kBaseHeads[column]);
+  }
+}
+
+void F9::F9_optWinOrder_MouseUp(int index) {
+  state().settings.SiegAnzeige = core::CheckValue(static_cast<std::int16_t>(index));
+  ShowStanding();
+}
+
+}  // namespace dialogs

@@ -1,0 +1,87 @@
+#include "standing_table.h"
+
+#include "../core/number_text.h"
+#include "../core/points.h"
+#include "../core/seats.h"
+
+namespace dialogs {
+namespace {
+
+using core::TPlayer;
+using platform::Surface;
+
+constexpr platform::Colour kNotHeld{100, 100, 100};
+constexpr int kRowHeight = 18;
+constexpr int kRankX = 6;
+constexpr int kNameX = 30;
+constexpr int kPointsX = 200;
+constexpr int kFirstCellX = 248;
+constexpr int kCellPitch = 30;
+
+/// What one cell tells: how many the player holds, or whether it is held at all, and what one of them is worth.
+struct Cell {
+  int held;
+  int worth;
+  bool isTitle;
+};
+
+std::vector<Cell> CellsOf(const TPlayer& player, std::int16_t gameType) {
+  std::vector<Cell> cells{{player.Settlements, core::kSettlementPoints, false},
+                          {player.Cities, core::kCityPoints, false},
+                          {player.BonusPoints, core::kBonusPointPoints, false},
+                          {player.LongestRoad, core::kTitlePoints, true}};
+  if (gameType == core::kBaseGame) cells.push_back({player.LargestArmy, core::kTitlePoints, true});
+  if (gameType == core::kFirstExpansion) {
+    cells.push_back({player.Merchant, core::kMerchantPoints, true});
+    cells.push_back({player.PoliticsMetropolis, core::kMetropolisPoints, true});
+    cells.push_back({player.TradeMetropolis, core::kMetropolisPoints, true});
+    cells.push_back({player.ScienceMetropolis, core::kMetropolisPoints, true});
+  }
+  return cells;
+}
+
+std::string TextOf(const Cell& cell, bool inPoints) {
+  if (inPoints) return std::to_string(cell.held * cell.worth);
+  if (cell.isTitle) return cell.held ? "X" : "";
+  return std::to_string(cell.held);
+}
+
+void DrawCells(const TPlayer& player, std::int16_t gameType, bool inPoints, int y, Surface& table) {
+  int x = kFirstCellX;
+  for (const Cell& cell : CellsOf(player, gameType)) {
+    table.ForeColor = cell.held > 0 ? platform::kBlack : kNotHeld;
+    const std::string text = TextOf(cell, inPoints);
+    if (!text.empty()) table.PrintAt(x, y, text);
+    x += kCellPitch;
+  }
+}
+
+void DrawHead(const core::RankedPlayer& ranked, int y, Surface& table) {
+  table.ForeColor = platform::kBlack;
+  table.FontSize = 12;
+  table.FontBold = true;
+  table.PrintAt(kRankX, y, std::to_string(ranked.Rank) + ".");
+  table.PrintAt(kNameX, y, ranked.Name);
+  table.PrintAt(kPointsX, y, core::PrintedNumber(ranked.Points));
+}
+
+}  // namespace
+
+void DrawStandingTable(const core::State& state, const std::vector<core::RankedPlayer>& ranking, Surface& picRanking) {
+  const core::Game& game = state.game;
+  picRanking.Cls();
+  int y = 1;
+  for (const core::RankedPlayer& ranked : ranking) {
+    DrawHead(ranked, y, picRanking);
+    picRanking.FontBold = false;
+    // A row finds its player by the name, so players of one name share their cells.
+    for (const TPlayer& player :
+         core::WithoutPlaceZero(game.Players).first(static_cast<std::size_t>(SeatsPlayed(game)))) {
+      if (player.Name == ranked.Name)
+        DrawCells(player, game.GameType, state.settings.SiegAnzeige.IsOff(), y, picRanking);
+    }
+    y += kRowHeight;
+  }
+}
+
+}  // namespace dialogs
