@@ -1,8 +1,14 @@
 #include "main_window.h"
 
+#include "../core/clock.h"
+#include "../core/dice_entry.h"
+#include "../core/new_game.h"
+#include "../core/points.h"
 #include "../windows/image_lists.h"
+#include "clock_strip.h"
 #include "dice_chart.h"
 #include "last_six.h"
+#include "player_panels.h"
 #include "themes.h"
 
 namespace mainwindow {
@@ -10,8 +16,16 @@ namespace mainwindow {
 using windows::imlW;
 
 MainWindow::MainWindow(platform::Services& services)
-    : F1(Desktop, MakeMenu()), F7({State, *this, services, Desktop, F1}), services_(services) {
+    : F1(Desktop, MakeMenu()),
+      F4({State, *this, services, Desktop, F1}),
+      F7({State, *this, services, Desktop, F1}),
+      F9({State, *this, services, Desktop, F1}),
+      F11({State, *this, services, Desktop, F1}),
+      F20({State, *this, services, Desktop, F1}),
+      services_(services) {
   WireInput();
+  F1.timSpielzeit.Tick = [this] { F1_timSpielzeit_Timer(); };
+  F20.Started = [this] { FollowNewGame(); };
   // Closing the window ends the process at once: nothing is asked and nothing is stored.
   F1.Close = [this] { services_.Quit(0); };
 }
@@ -23,7 +37,16 @@ void MainWindow::DrawDiceStats() {
   if (State.settings.ShowLast6) DrawLastSix(State, F1.picInfoLine.Drawing);
 }
 
-void MainWindow::DrawPlayerPanels() {}
+/// Looks at the win anew each time: as long as a leader has the points, every redraw opens the winner's window.
+void MainWindow::DrawPlayerPanels() {
+  core::ClampPoints(State.game);
+  core::FindLeaders(State.game);
+  PaintPanels(State, services_, F1);
+  F4.OfferActions();
+  if (!core::WinningSeat(State)) return;
+  State.game.GameWon = true;
+  ShowStanding();
+}
 
 void MainWindow::ShowPlayerPanels() {
   for (int seat = 1; seat <= core::kSeats; ++seat) {
@@ -39,13 +62,29 @@ void MainWindow::ShowRolledDice() {
   }
 }
 
-void MainWindow::ShowAttack() {}
-
 void MainWindow::UnlockMainWindow() { F1.Enabled = true; }
 
 void MainWindow::CloseDiceDialog() { F7.Visible = false; }
 
-void MainWindow::CalcPoints() { DrawPlayerPanels(); }
+/// The dialog has started a game: dice, theme, clocks, panels and chart are those of the new one.
+void MainWindow::FollowNewGame() {
+  F1.ShowBlankDice();
+  ShowEventDie();
+  if (State.settings.AutoHG.IsOn()) LoadThemeImages(core::ThemeOf(State.game));
+  ShowClockCaption();
+  ShowPlayerPanels();
+  DrawDiceStats();
+  core::CalcPoints(State.game, *this);
+}
+
+void MainWindow::ShowEventDie() { F1.picWurfel(2).Visible = core::HasEventDie(State.game); }
+
+void MainWindow::F1_timSpielzeit_Timer() {
+  core::Tick(State.game);
+  DrawClockStrip(State, F1);
+}
+
+std::vector<windows::Dialog*> MainWindow::Dialogs() { return {&F4, &F7, &F9, &F11, &F20}; }
 
 bool MainWindow::LoadThemeImages(int theme) {
   return mainwindow::LoadThemeImages(theme, State.settings, services_, F1);

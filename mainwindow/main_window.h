@@ -5,7 +5,11 @@
 #include "../core/auto_roll.h"
 #include "../core/game_state.h"
 #include "../core/screen.h"
+#include "../dialogs/f11_attack.h"
+#include "../dialogs/f20_new_game.h"
+#include "../dialogs/f4_player_action.h"
 #include "../dialogs/f7_dice_entry.h"
+#include "../dialogs/f9_standing.h"
 #include "../platform/desktop.h"
 #include "../platform/services.h"
 #include "commands.h"
@@ -27,14 +31,19 @@ class MainWindow : public core::Screen {
   core::State State;
   platform::Desktop Desktop;
   mainwindow::F1 F1;
+  dialogs::F4 F4;
   dialogs::F7 F7;
+  dialogs::F9 F9;
+  dialogs::F11 F11;
+  dialogs::F20 F20;
 
   // core::Screen
   void DrawDiceStats() override;
   void DrawPlayerPanels() override;
   void ShowPlayerPanels() override;
   void ShowRolledDice() override;
-  void ShowAttack() override;
+  void ShowStanding() override { F9.ShowStanding(); }
+  void ShowAttack() override { F11.ShowAttack(); }
   void UnlockMainWindow() override;
   void CloseDiceDialog() override;
 
@@ -53,6 +62,9 @@ class MainWindow : public core::Screen {
   void F1_mnuExtraAutoDice_Click();
   void F1_mnuHelpKeys_Click();
   void F1_mnuHelpInfo_Click();
+
+  /// One second has passed: the clocks count and the lower strip is painted.
+  void F1_timSpielzeit_Timer();
 
  private:
   // Start-up, in main_window_start.cpp.
@@ -74,14 +86,14 @@ class MainWindow : public core::Screen {
   void F1_picSP_MouseUp(int index, platform::MouseButton button);
   void F1_picWurfel_MouseUp(platform::MouseButton button);
   bool KeyOfSeat(int seat);
-  void ClampPoints();
-  void OpenActionDialog(int seat);
   void PrepareDataDialog(int seat);
   void AutoRoll(core::EventDieOf command);
 
   void SaveSettings();
   bool LoadThemeImages(int theme);
-  void CalcPoints();
+  void FollowNewGame();
+  void ShowEventDie();
+  std::vector<windows::Dialog*> Dialogs();
 
   platform::Services& services_;
 };

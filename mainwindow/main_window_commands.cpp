@@ -1,17 +1,28 @@
 // What the commands of the main window do, one handler for each menu entry.
 #include "../core/dice_log.h"
+#include "../core/player_actions.h"
+#include "../core/points.h"
 #include "main_window.h"
 
 namespace mainwindow {
 
-void MainWindow::F1_mnuGameNew_Click() {}
+void MainWindow::F1_mnuGameNew_Click() { F20.OpenNewGame(); }
 void MainWindow::F1_mnuFileLoad_Click() {}
 void MainWindow::F1_mnuFileSaveAs_Click() {}
 void MainWindow::F1_mnuGameInfo_Click() {}
 void MainWindow::F1_mnuFilePrint_Click() {}
 void MainWindow::F1_mnuFileQuit_Click() { SaveSettings(); }
-void MainWindow::F1_mnuExtraZS_Click() {}
-void MainWindow::F1_mnuSpecialLHS_Click() {}
+
+void MainWindow::F1_mnuExtraZS_Click() {
+  State.game.GameWon = false;
+  ShowStanding();
+}
+
+void MainWindow::F1_mnuSpecialLHS_Click() {
+  core::TakeLongestRoad(State.game);
+  services_.MessageBox(State.Text(107));
+  core::CalcPoints(State.game, *this);
+}
 
 void MainWindow::F1_mnuExtraDelLastW_Click() {
   const auto answer = services_.MessageBox(State.Text(106), {}, platform::Buttons::YesNo);

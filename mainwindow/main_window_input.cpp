@@ -1,7 +1,7 @@
 // The dispatch of keys, clicks and tool-bar buttons of the main window.
-#include <algorithm>
-
 #include "../core/dice_entry.h"
+#include "../core/points.h"
+#include "../core/seats.h"
 #include "main_window.h"
 
 namespace mainwindow {
@@ -30,32 +30,23 @@ void MainWindow::F1_tbrMenu_ButtonClick(int index) {
 
 void MainWindow::F1_Form_KeyUp(platform::KeyCode code, platform::Modifiers with) {
   const int seat = code - platform::kKeyF1 + 1;
-  const bool isSeat = seat >= 1 && seat <= core::kSeats;
+  const bool isSeat = core::IsSeat(seat);
   if (with.Any()) {
     if (isSeat) PrepareDataDialog(seat);
     return;
   }
   if (isSeat && !KeyOfSeat(seat)) return;
   if (const int die = core::DieOfKey(code)) F7.OpenDiceDialogByKey(die);
-  ClampPoints();
+  core::ClampPoints(State.game);
 }
 
 /// The key of a seat; false if nobody plays there. The first two seats always play.
 bool MainWindow::KeyOfSeat(int seat) {
   State.game.CurrentPlayer = static_cast<std::int16_t>(seat);
   if (seat > 2 && !State.game.Players[static_cast<std::size_t>(seat)].Active) return false;
-  OpenActionDialog(seat);
+  F4.OpenActionDialog(seat);
   return true;
 }
-
-void MainWindow::ClampPoints() {
-  for (std::size_t seat = 1; seat <= core::kSeats; ++seat) {
-    auto& points = State.game.PlayerPoints[seat];
-    points = std::clamp<std::int16_t>(points, 0, 99);
-  }
-}
-
-void MainWindow::OpenActionDialog(int seat) { State.game.CurrentPlayer = static_cast<std::int16_t>(seat); }
 
 void MainWindow::PrepareDataDialog(int seat) { State.game.DataPlayer = static_cast<std::int16_t>(seat); }
 
@@ -63,7 +54,7 @@ void MainWindow::F1_picSP_MouseUp(int index, MouseButton button) {
   if (button == MouseButton::Right) {
     PrepareDataDialog(index + 1);
   } else {
-    OpenActionDialog(index + 1);
+    F4.OpenActionDialog(index + 1);
   }
 }
 

@@ -66,7 +66,7 @@ void MainWindow::SetCaptions() {
   ShowClockCaption();
   for (int i = 0; i < core::kSeats; ++i) F1.picSP(i).ToolTipText = State.Text(27 + i);
   for (int i = 0; i < 3; ++i) F1.picWurfel(i).ToolTipText = State.Text(33);
-  F7.SetCaptions();
+  for (windows::Dialog* dialog : Dialogs()) dialog->SetCaptions();
 }
 
 void MainWindow::ShowClockCaption() {

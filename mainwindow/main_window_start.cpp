@@ -1,8 +1,8 @@
 // The start-up sequence of the main window; each step relies on those before it.
 #include <filesystem>
 
-#include "../core/arithmetic.h"
 #include "../core/defaults.h"
+#include "../core/points.h"
 #include "main_window.h"
 
 namespace mainwindow {
@@ -22,15 +22,15 @@ Started MainWindow::Load() {
   LoadSettings();
   F7.ShowHotkeys();
   core::BeginWithoutGame(State);
-  F1.picWurfel(2).Visible = false;
+  ShowEventDie();
   const Started started = LoadLanguage();
   if (started != Started::Yes) return started;
+  F4.SetPictures();
   F7.SetPictures();
   CentreDialogs();
   core::StopClocks(State);
-  CalcPoints();
+  core::CalcPoints(State.game, *this);
   ShowPlayerPanels();
-  DrawPlayerPanels();
   DrawDiceStats();
   F1.Visible = true;
   return Started::Yes;
@@ -47,7 +47,7 @@ void MainWindow::LoadSettings() {
 }
 
 void MainWindow::CentreDialogs() {
-  for (platform::Form* dialog : {static_cast<platform::Form*>(&F7)}) {
+  for (windows::Dialog* dialog : Dialogs()) {
     dialog->MoveTo(Half(F1.Width() - dialog->Width()), Half(F1.Height() - dialog->Height()));
   }
 }

@@ -1,0 +1,72 @@
+#include "clock_strip.h"
+
+#include "../core/clock.h"
+#include "../windows/image_lists.h"
+
+namespace mainwindow {
+namespace {
+
+using core::State;
+using platform::Surface;
+
+// Twips of the main window.
+constexpr int kTotalsFromRight = 1000;
+constexpr int kFirstTotalY = 6650;
+constexpr int kTotalPitch = 300;
+constexpr int kIconRight = 400;
+constexpr int kIconAbove = 50;
+constexpr int kPauseLeft = 500;
+constexpr int kPauseUp = 1000;
+constexpr int kLabelUp = 1400;
+constexpr int kTimeUp = 1200;
+constexpr int kGameClockX = 200;
+constexpr int kPlayerClockFromRight = 2200;
+
+constexpr double kTimeSize = 16;  // points
+constexpr double kTextSize = 8;
+
+void DrawTotals(const State& state, int x, Surface& surface) {
+  const core::BoardTotals totals = core::CountBoard(state.game);
+  const struct {
+    int count;
+    int icon;
+  } rows[] = {{totals.Settlements, 1}, {totals.Cities, 2}, {totals.Metropolises, 11}};
+  int y = kFirstTotalY;
+  for (const auto& [count, icon] : rows) {
+    if (icon == 11 && state.game.GameType != core::kFirstExpansion) break;
+    surface.PrintAt(x, y, std::to_string(count) + " x");
+    surface.PaintPicture(windows::imlIcons.Image(icon), x + kIconRight, y - kIconAbove);
+    y += kTotalPitch;
+  }
+}
+
+void DrawClock(const std::string& label, int seconds, int x, int height, Surface& surface) {
+  surface.PrintAt(x, height - kLabelUp, label);
+  surface.FontSize = kTimeSize;
+  surface.PrintAt(x, height - kTimeUp, core::ClockText(seconds));
+  surface.FontSize = kTextSize;
+}
+
+}  // namespace
+
+void DrawClockStrip(const State& state, platform::Form& f1) {
+  Surface& surface = f1.Drawing;
+  const int width = f1.Width();
+  const int height = f1.Height();
+  surface.Cls();
+  surface.ForeColor = platform::kWhite;
+  DrawTotals(state, width - kTotalsFromRight, surface);
+  const core::Settings& settings = state.settings;
+  if (!state.game.ClockRunning) {
+    if (settings.ShowGameTime || settings.ShowPlayerTime) {
+      surface.PrintAt(width / 2 - kPauseLeft, height - kPauseUp, "PAUSE");
+    }
+    return;
+  }
+  if (settings.ShowGameTime) DrawClock(state.Text(113), state.game.Clock[0], kGameClockX, height, surface);
+  if (settings.ShowPlayerTime) {
+    DrawClock(state.Text(114), state.game.Clock[1], width - kPlayerClockFromRight, height, surface);
+  }
+}
+
+}  // namespace mainwindow

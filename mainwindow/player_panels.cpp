@@ -1,0 +1,64 @@
+#include "player_panels.h"
+
+#include "../core/number_text.h"
+#include "../core/symbols.h"
+#include "../windows/image_lists.h"
+#include "themes.h"
+
+namespace mainwindow {
+namespace {
+
+using core::State;
+using platform::Colour;
+using platform::Surface;
+
+constexpr Colour kLeading = Colour::FromBgr(0x00FFFF);
+constexpr Colour kFollowing = Colour::FromBgr(0x0099CC);
+
+// Pixels of a panel, 185 by 57.
+constexpr int kPanelWidth = 185;
+constexpr int kSymbolPitch = 16;
+constexpr int kTextX = 1;
+constexpr int kLabelY = 16;
+constexpr int kNameY = 28;
+constexpr int kPointsY = 11;
+constexpr int kOneDigitX = 135;
+constexpr int kTwoDigitsX = 115;
+
+void Write(Surface& panel, double size, bool bold, int x, int y, const std::string& text) {
+  panel.FontSize = size;
+  panel.FontBold = bold;
+  panel.PrintAt(x, y, text);
+}
+
+void PaintSymbols(const core::TPlayer& player, Surface& panel) {
+  int x = 1;
+  for (const int symbol : core::SymbolsOf(player, kPanelWidth / kSymbolPitch + 1)) {
+    panel.PaintPicture(windows::imlIcons.Image(symbol), x, 1);
+    x += kSymbolPitch;
+  }
+}
+
+void PaintPanel(const State& state, int seat, Surface& panel) {
+  const auto index = static_cast<std::size_t>(seat);
+  const int points = state.game.PlayerPoints[index];
+  panel.ForeColor = state.game.LeaderFlag[index] ? kLeading : kFollowing;
+  panel.Cls();
+  PaintSymbols(state.game.Players[index], panel);
+  Write(panel, 8, false, kTextX, kLabelY, state.Text(16) + " " + std::to_string(seat));
+  Write(panel, 18, true, kTextX, kNameY, state.game.Players[index].Name);
+  Write(panel, 32, true, points <= 9 ? kOneDigitX : kTwoDigitsX, kPointsY, core::PrintedNumber(points));
+}
+
+}  // namespace
+
+void PaintPanels(const State& state, platform::Services& services, F1& f1) {
+  for (int seat = 1; seat <= core::kSeats; ++seat) {
+    platform::PictureBox& panel = f1.picSP(seat - 1);
+    const auto ground = PanelPicture(state.settings.HG, seat, state.game.LeaderFlag[static_cast<std::size_t>(seat)]);
+    if (services.CanShow(ground)) panel.Image = ground;
+    PaintPanel(state, seat, panel.Drawing);
+  }
+}
+
+}  // namespace mainwindow
