@@ -51,6 +51,13 @@ FormWindow* FormWindowOf(QObject* object) {
   return widget ? dynamic_cast<FormWindow*>(widget->window()) : nullptr;
 }
 
+/// The user has put the focus on a widget: the form's focus is there too.
+void FollowFocus(QWidget* widget) {
+  FormWindow* window = widget ? dynamic_cast<FormWindow*>(widget->window()) : nullptr;
+  Control* control = window ? window->Widgets().ControlOf(widget) : nullptr;
+  if (control && control->TakesFocus()) window->Model().SetFocus(*control);
+}
+
 KeyTracker::Time TimeOf(const QKeyEvent& event) { return KeyTracker::Time(event.timestamp()); }
 
 }  // namespace
@@ -60,6 +67,7 @@ Shell::Shell(Desktop& desktop, Form& mainForm) : desktop_(desktop), mainForm_(ma
   for (Form* form : desktop_.Forms()) StartTimers(*form);
   desktop_.OnChange = [this](Form& form, Aspect aspect) { FormChanged(form, aspect); };
   qApp->installEventFilter(this);
+  connect(qApp, &QApplication::focusChanged, this, [](QWidget*, QWidget* now) { FollowFocus(now); });
 }
 
 Shell::~Shell() {

@@ -1,0 +1,88 @@
+// What the toolkit's events become: key codes, clicks on pictures, typed texts, options and check boxes.
+#include <QCheckBox>
+#include <QLineEdit>
+
+#include "../../platform/qt/key_codes.h"
+#include "real_windows.h"
+
+namespace {
+
+TEST(KeyCodes, TellTheTopRowFromTheNumberPadAndSignsFromFunctionKeys) {
+  const struct {
+    Qt::Key key;
+    Qt::KeyboardModifiers with;
+    platform::KeyCode code;
+  } rows[] = {
+      {Qt::Key_4, Qt::NoModifier, '4'},
+      {Qt::Key_4, Qt::KeypadModifier, platform::kKeyNumberPad0 + 4},
+      {Qt::Key_Left, Qt::KeypadModifier, platform::kKeyNumberPad0 + 4},  // without NumLock
+      {Qt::Key_Enter, Qt::KeypadModifier, platform::kKeyEnter},
+      {Qt::Key_B, Qt::ShiftModifier, 'B'},
+      {Qt::Key_F12, Qt::NoModifier, 123},
+      {Qt::Key_Percent, Qt::ShiftModifier, platform::kKeyUnknown},
+      {Qt::Key_BraceLeft, Qt::NoModifier, platform::kKeyUnknown},
+      {Qt::Key_Udiaeresis, Qt::NoModifier, 0xDC},
+      {Qt::Key_Backtab, Qt::ShiftModifier, platform::kKeyTab},
+  };
+  for (const auto& row : rows) {
+    const QKeyEvent event(QEvent::KeyRelease, row.key, row.with);
+    EXPECT_EQ(platform::qt::CodeOf(event), row.code) << "key " << row.key;
+  }
+}
+
+class Input : public tests::RealWindows {};
+
+TEST_F(Input, ClicksOnPicturesCarryTheirButtonAndCountOnlyInside) {
+  Click(Window.F1.picWurfel(1), Qt::MiddleButton);
+  EXPECT_EQ(Window.State.game.TotalRolls, 0);
+  Click(Window.F1.picWurfel(1), Qt::RightButton);
+  EXPECT_EQ(Window.State.game.TotalRolls, 1);
+
+  QWidget& die = WidgetOf(Window.F1.picWurfel(0));
+  const QPoint at = die.mapTo(die.window(), die.rect().center());
+  QTest::mousePress(die.window()->windowHandle(), Qt::LeftButton, {}, at);
+  QTest::mouseRelease(die.window()->windowHandle(), Qt::LeftButton, {}, at - QPoint(100, 0));
+  EXPECT_FALSE(Window.F7.Visible);
+}
+
+TEST_F(Input, TheMenuRunsItsEntriesByMouse) {
+  Window.F1.MenuBar->operator[]("mnuExtraAutoDice").Click();
+  Type(Window.F1, Qt::Key_F9);
+  EXPECT_EQ(Window.State.game.TotalRolls, 2);
+}
+
+TEST_F(Input, TextFieldsTakeKeysAndEnterAndSpaceStayTheForms) {
+  Type(Window.F1, Qt::Key_N, Qt::ControlModifier);
+  ASSERT_TRUE(Window.F20.Visible);
+  Click(Window.F20.txtSpielername(0));
+  for (const Qt::Key key : {Qt::Key_A, Qt::Key_Space, Qt::Key_B}) Type(Window.F20, key);
+  EXPECT_EQ(Window.F20.txtSpielername(0).Text.Get(), "a b");
+  Type(Window.F20, Qt::Key_Tab);
+  EXPECT_EQ(QApplication::focusWidget(), &WidgetOf(Window.F20.txtSpielername(1)));
+  Type(Window.F20, Qt::Key_Escape);
+  EXPECT_FALSE(Window.F20.Visible);
+}
+
+TEST_F(Input, MarksFollowTheModel) {
+  Window.F20.OpenNewGame();
+  Click(Window.F20.chkFlo);
+  EXPECT_EQ(Window.F20.chkFlo.Value.Get(), 1);
+  Click(Window.F20.optB);
+  EXPECT_FALSE(Window.F20.optA.Value);
+  EXPECT_EQ(Window.F20.txtneuSPBed.Text.Get(), "13");
+  auto* minus = &WidgetOf(Window.F20.cmdA(0));
+  minus->setFocus();
+  Type(Window.F20, Qt::Key_Space);
+  EXPECT_EQ(Window.F20.txtneuSPBed.Text.Get(), "12");
+  EXPECT_TRUE(static_cast<QCheckBox&>(WidgetOf(Window.F20.chkFlo)).isChecked());
+}
+
+TEST_F(Input, InTheDiceDialogSpaceAndEnterPressNoFocusedButton) {
+  Window.F7.PrepareDiceDialog();
+  WidgetOf(Window.F7.cmdNoOK).setFocus();
+  Type(Window.F7, Qt::Key_Space);
+  Type(Window.F7, Qt::Key_Return);
+  EXPECT_TRUE(Window.F7.Visible);
+}
+
+}  // namespace

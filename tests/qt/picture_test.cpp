@@ -1,0 +1,86 @@
+// What is drawn: every drawing that the forms hold can be loaded at its size, and a list of steps becomes the pixels
+// that it tells of, at any resolution.
+#include <gtest/gtest.h>
+
+#include <QImage>
+
+#include "../../platform/qt/convert.h"
+#include "../../platform/qt/pictures.h"
+#include "../../platform/qt/replay.h"
+#include "../../windows/image_lists.h"
+
+namespace {
+
+using platform::Colour;
+using platform::Surface;
+using platform::qt::ToQt;
+
+constexpr Colour kInk{255, 0, 0};
+
+QImage Painted(const Surface& surface, double unitsPerPixel = 1, int scale = 1) {
+  QImage image(QSize(80, 40) * scale, QImage::Format_RGB32);
+  image.setDevicePixelRatio(scale);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  platform::qt::Replay(painter, surface, unitsPerPixel);
+  return image;
+}
+
+/// The pixels that are not ground, as the smallest rectangle round them.
+QRect Inked(const QImage& image) {
+  QRect found;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      if (image.pixelColor(x, y) != QColor(Qt::white)) found |= QRect(x, y, 1, 1);
+    }
+  }
+  return found;
+}
+
+TEST(Pictures, AllDrawingsOfTheFormsLoadAtTheirSize) {
+  for (const auto& list : {windows::imlW, windows::imlIcons, windows::imlToolbar, windows::imlGameType}) {
+    for (int index = 1; index <= list.Count; ++index) {
+      EXPECT_EQ(platform::qt::SizeOf(list.Image(index)), QSize(list.Size, list.Size)) << list.Name << " " << index;
+    }
+  }
+  EXPECT_EQ(platform::qt::SizeOf(windows::kArrow), QSize(32, 32));
+  EXPECT_EQ(platform::qt::SizeOf(windows::kWinner), QSize(55, 55));
+  EXPECT_TRUE(platform::qt::SizeOf({"no-such.jpg", false}).isEmpty());
+}
+
+TEST(Replay, BoxesReachUpToTheirSecondCornerAndAreNeverEmpty) {
+  const struct {
+    double x1, y1, x2, y2;
+    QRect pixels;
+  } rows[] = {{10, 4, 30, 6, {10, 4, 20, 2}},
+              {10, 17, 30, 15, {10, 15, 20, 2}},  // from below
+              {12, 3, 12, 18, {12, 3, 1, 15}},    // without length
+              {-5, 0, 3, 2, {0, 0, 3, 2}},
+              {10, 0, 9e9, 2, {10, 0, 70, 2}}};  // as only hostile counts can bring about
+  for (const auto& row : rows) {
+    Surface surface;
+    surface.FillBox(row.x1, row.y1, row.x2, row.y2, kInk);
+    EXPECT_EQ(Inked(Painted(surface)), row.pixels) << row.x1 << " to " << row.x2;
+  }
+}
+
+TEST(Replay, TwipsAndScaledScreensKeepThePlace) {
+  Surface surface;
+  surface.Line(150, 60, 300, 60, kInk);
+  EXPECT_EQ(Inked(Painted(surface, 15)), QRect(10, 4, 10, 1));
+  EXPECT_EQ(Inked(Painted(surface, 15, 3)), QRect(30, 12, 30, 3));
+}
+
+TEST(Replay, TextHangsFromTheTopOfItsCell) {
+  Surface surface;
+  surface.ForeColor = kInk;
+  surface.FontSize = 9;
+  surface.PrintAt(20, 10, "H");
+  const QRect inked = Inked(Painted(surface));
+  EXPECT_GE(inked.left(), 20);
+  EXPECT_LE(inked.left(), 22);
+  EXPECT_GE(inked.top(), 11);
+  EXPECT_LE(inked.bottom(), 10 + 12);
+}
+
+}  // namespace
