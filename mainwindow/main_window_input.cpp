@@ -24,7 +24,7 @@ void MainWindow::WireInput() {
 
 void MainWindow::F1_tbrMenu_ButtonClick(int index) {
   for (const Command& command : Commands()) {
-    if (command.Tool == index && command.Run) return (this->*command.Run)();
+    if (command.Tool != 0 && command.Tool == index) return (this->*command.Run)();
   }
 }
 

@@ -32,11 +32,14 @@ void AppendUtf8(std::string& text, char32_t character) {
   }
 }
 
+bool IsContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
+
 /// Takes the next character off the text; kInvalid for a broken sequence, of which one byte is taken.
 char32_t TakeCharacter(std::string_view& text) {
   const auto lead = static_cast<unsigned char>(text.front());
   const std::size_t length = lead < 0x80 ? 1 : lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 0;
-  if (length == 0 || length > text.size()) {
+  const auto tail = text.substr(1, length == 0 ? 0 : length - 1);
+  if (length == 0 || tail.size() + 1 != length || !std::all_of(tail.begin(), tail.end(), IsContinuation)) {
     text.remove_prefix(1);
     return kInvalid;
   }
