@@ -30,6 +30,7 @@ FormWindow::FormWindow(Form& form, QWidget* owner)
   const int menuHeight = menuBar_ ? menuBar_->height() : 0;
   form_.MenuBarHeight = menuHeight * kTwipsPerPixel;
   const QSize size = ToQt(form_.Position.Get()).size();
+  client_->setFocusPolicy(Qt::ClickFocus);  // so that a menu has where to give the focus back
   client_->setGeometry(0, menuHeight, size.width(), size.height());
   setFixedSize(size.width(), size.height() + menuHeight);
   widgets_.Build(form_, client_);
@@ -100,6 +101,7 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 
 void FormWindow::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
+  client_->setFocus();
   if (Control* focus = form_.Focus()) widgets_.Update(*focus, Aspect::Focus);
   // The window manager adds its frame a moment later.
   QTimer::singleShot(100, this, [this] { LearnFrame(); });

@@ -51,6 +51,12 @@ FormWindow* FormWindowOf(QObject* object) {
   return widget ? dynamic_cast<FormWindow*>(widget->window()) : nullptr;
 }
 
+/// Whether the user walks along the menu bar by keyboard. The bar may keep the focus when it is left.
+bool MenuIsInUse() {
+  auto* bar = qobject_cast<QMenuBar*>(QApplication::focusWidget());
+  return bar && bar->activeAction();
+}
+
 /// The user has put the focus on a widget: the form's focus is there too.
 void FollowFocus(QWidget* widget) {
   FormWindow* window = widget ? dynamic_cast<FormWindow*>(widget->window()) : nullptr;
@@ -140,7 +146,7 @@ bool Shell::FilterForWindow(FormWindow& window, QEvent& event) {
 }
 
 bool Shell::HandleKey(FormWindow& window, QKeyEvent& event) {
-  if (qobject_cast<QMenuBar*>(QApplication::focusWidget())) return false;
+  if (MenuIsInUse()) return false;
   QPointer<FormWindow> still(&window);
   const bool own = window.Model().AcceptsInput();
   Form* receiver = desktop_.KeyReceiver(window.Model());

@@ -45,10 +45,16 @@ TEST_F(Input, ClicksOnPicturesCarryTheirButtonAndCountOnlyInside) {
   EXPECT_FALSE(Window.F7.Visible);
 }
 
-TEST_F(Input, TheMenuRunsItsEntriesByMouse) {
-  Window.F1.MenuBar->operator[]("mnuExtraAutoDice").Click();
+TEST_F(Input, KeysAreTheFormsAgainOnceTheMenuWasLeft) {
+  Type(Window.F1, Qt::Key_E, Qt::AltModifier);
+  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  for (int i = 0; i < 2; ++i) {
+    QWidget* popup = QApplication::activePopupWidget();
+    QTest::keyClick(popup ? popup : QApplication::focusWidget(), Qt::Key_Escape);
+  }
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
   Type(Window.F1, Qt::Key_F9);
-  EXPECT_EQ(Window.State.game.TotalRolls, 2);
+  EXPECT_EQ(Window.State.game.TotalRolls, 1);
 }
 
 TEST_F(Input, TextFieldsTakeKeysAndEnterAndSpaceStayTheForms) {

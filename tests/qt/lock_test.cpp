@@ -34,6 +34,8 @@ TEST_F(Lock, KeepsTheMouseOut) {
 }
 
 TEST_F(Lock, KeepsTheAccessKeysOfTheMenuOut) {
+  WindowOf(Window.F1).activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&WindowOf(Window.F1)));
   Type(Window.F1, Qt::Key_S, Qt::AltModifier);
   EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }

@@ -15,7 +15,10 @@ namespace tests {
 
 class RealWindows : public testing::Test {
  protected:
-  RealWindows() { EXPECT_EQ(Window.Load(), mainwindow::Started::Yes); }
+  RealWindows() {
+    EXPECT_EQ(Window.Load(), mainwindow::Started::Yes);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&WindowOf(Window.F1)));
+  }
 
   ScriptedServices Services;
   mainwindow::MainWindow Window{Services};
