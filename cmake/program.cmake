@@ -25,3 +25,4 @@ add_custom_command(OUTPUT ${CMAKE_BINARY_DIR}/run-files.stamp
   COMMAND ${CMAKE_COMMAND} -E touch ${CMAKE_BINARY_DIR}/run-files.stamp
   DEPENDS ${ORVANBEG_RUN_FILES})
 add_custom_target(run_files ALL DEPENDS ${CMAKE_BINARY_DIR}/run-files.stamp)
+add_dependencies(orvanbeg run_files)

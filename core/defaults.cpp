@@ -2,27 +2,18 @@
 
 namespace core {
 
-void SetBasicDefaults(State& state) {
+void SetDefaults(State& state) {
   state.entry.DiceEntryStage = 0;
-  state.settings.AutoHG = kOn;
-  state.settings.HG = 1;
-  state.settings.SiegAnzeige = kOn;
   state.game.OptFlottillen = kOff;
   state.game.OptScenario = kOff;
-  state.game.WinPoints = 10;
-  state.AboutFrame = 0;
-}
-
-void SetKeyAndLanguageDefaults(State& state) {
-  state.settings.EventHotkey = {0, 'P', 'H', 'W', 'B'};
-  state.language.Languages[0] = kNoLanguageYet;
-}
-
-void SetDisplayDefaults(State& state) {
   state.game.NumPlayers = kDefaultPlayers;
+  state.AboutFrame = 0;
+  state.settings.EventHotkey = {0, 'P', 'H', 'W', 'B'};
   state.settings.ShowGameTime = true;
   state.settings.ShowPlayerTime = true;
   state.settings.Contrast = kOn;
+  state.language.Languages[0] = kNoLanguageYet;
+  SetSettingsDefaults(state);
 }
 
 void BeginWithoutGame(State& state) {

@@ -5,12 +5,8 @@
 
 namespace core {
 
-/// Theme, view of the standing, options and win points of a run without settings file.
-void SetBasicDefaults(State& state);
-/// The keys of the event die, and that no language has been chosen.
-void SetKeyAndLanguageDefaults(State& state);
-/// Four players and both clocks shown.
-void SetDisplayDefaults(State& state);
+/// What holds before the settings file is read: options, keys of the event die, no language chosen, clocks shown.
+void SetDefaults(State& state);
 /// A base game of the seats 1 to 4 without any roll. Names stay.
 void BeginWithoutGame(State& state);
 /// Both clocks at zero and standing.

@@ -10,19 +10,13 @@ namespace {
 
 constexpr int kShipsPerAttack = 7;
 
+/// Changes the count of a sum or face by one, down to 0 at the least; an index that a file has made up does nothing.
 template <typename Counts>
-void Add(Counts& counts, int index, int change) {
+void Change(Counts& counts, int index, int by) {
   if (index < 0 || index >= static_cast<int>(counts.size())) return;
   auto& count = counts[static_cast<std::size_t>(index)];
-  count = Saturate16(count + change);
-}
-
-template <typename Counts>
-void TakeBack(Counts& counts, int index) {
-  Add(counts, index, -1);
-  if (index < 0 || index >= static_cast<int>(counts.size())) return;
-  auto& count = counts[static_cast<std::size_t>(index)];
-  count = std::max<std::int16_t>(count, 0);
+  const std::int16_t changed = Saturate16(count + by);
+  count = by < 0 ? std::max<std::int16_t>(changed, 0) : changed;
 }
 
 /// Counts and logs the entered roll; false if there is no room for it.
@@ -30,8 +24,8 @@ bool Record(State& state) {
   Game& game = state.game;
   if (CountTotalRolls(game) >= kLoggedRolls) return false;
   const TRoll roll{state.entry.Die1, state.entry.Die2, state.entry.EventDie};
-  Add(game.DiceCount, roll.Die1 + roll.Die2, 1);
-  Add(game.EventCount, roll.EventDie, 1);
+  Change(game.DiceCount, roll.Die1 + roll.Die2, 1);
+  Change(game.EventCount, roll.EventDie, 1);
   const int entry = CountTotalRolls(game);
   // Counts from a file may be negative: entry 0 and below are never written.
   if (entry >= 1 && entry <= kLoggedRolls) game.DiceLog[static_cast<std::size_t>(entry)] = roll;
@@ -70,8 +64,8 @@ void UndoLastRoll(State& state, Screen& screen) {
   const int entry = CountTotalRolls(game);
   if (entry >= 0 && entry <= kLoggedRolls) {
     TRoll& roll = game.DiceLog[static_cast<std::size_t>(entry)];
-    TakeBack(game.DiceCount, roll.Die1 + roll.Die2);
-    TakeBack(game.EventCount, roll.EventDie);
+    Change(game.DiceCount, roll.Die1 + roll.Die2, -1);
+    Change(game.EventCount, roll.EventDie, -1);
     roll = {};
   }
   screen.DrawDiceStats();

@@ -1,7 +1,11 @@
 #include "number_text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <limits>
+
+#include "arithmetic.h"
 
 namespace core {
 namespace {
@@ -28,5 +32,27 @@ std::string PlainText(float value, const std::string& decimalSeparator) {
 }
 
 std::string PrintedNumber(int value) { return (value < 0 ? "" : " ") + std::to_string(value) + " "; }
+
+std::optional<double> NumberIn(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return std::nullopt;
+  std::string digits(text.substr(first, text.find_last_not_of(' ') - first + 1));
+  std::replace(digits.begin(), digits.end(), ',', '.');
+  if (digits.front() == '+') digits.front() = '0';
+  const bool onlyDigits = digits.find_first_not_of("-.0123456789") == std::string::npos;
+  double value = 0;
+  const char* const end = digits.data() + digits.size();
+  const auto read = std::from_chars(digits.data(), end, value, std::chars_format::fixed);
+  return onlyDigits && read.ec == std::errc() && read.ptr == end ? std::optional(value) : std::nullopt;
+}
+
+std::optional<std::int16_t> WholeNumberIn(std::string_view text) {
+  const auto value = NumberIn(text);
+  if (!value || std::abs(*value) > 40000) return std::nullopt;
+  const double whole = RoundHalfEven(*value);
+  using Limits = std::numeric_limits<std::int16_t>;
+  return whole >= Limits::min() && whole <= Limits::max() ? std::optional(static_cast<std::int16_t>(whole))
+                                                          : std::nullopt;
+}
 
 }  // namespace core

@@ -1,7 +1,10 @@
 // Numbers as the program writes them into drawings and captions.
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace core {
 
@@ -13,5 +16,12 @@ std::string PlainText(float value, const std::string& decimalSeparator);
 
 /// A number as a drawing surface prints it: with a blank for the sign in front and one behind.
 std::string PrintedNumber(int value);
+
+/// The number that a typed text holds: blanks around it, a sign, digits and a fraction behind a point or comma are
+/// understood. Nothing for any other text.
+std::optional<double> NumberIn(std::string_view text);
+
+/// The same rounded to a whole number; nothing where 16 bits do not hold it either.
+std::optional<std::int16_t> WholeNumberIn(std::string_view text);
 
 }  // namespace core

@@ -4,6 +4,7 @@
 #include <charconv>
 
 #include "../core/new_game.h"
+#include "../platform/mnemonic.h"
 #include "../windows/form_metrics.h"
 #include "../windows/image_lists.h"
 
@@ -125,20 +126,12 @@ void F20::SetCaptions() {
   const struct {
     platform::Property<std::string>& caption;
     int text;
-  } rows[] = {{Caption, 2},
-              {fraA.Caption, 97},
-              {optA.Caption, 66},
-              {optB.Caption, 67},
-              {chkFlo.Caption, 68},
-              {chkSzen.Caption, 69},
-              {lblSiegbed.Caption, 70},
-              {fraSetPlayers.Caption, 98},
-              {lblB.Caption, 99},
-              {fraSpielInfo.Caption, 72},
-              {lblC.Caption, 73},
-              {lblD.Caption, 74},
-              {cmdStart.Caption, 100},
+  } rows[] = {{fraA.Caption, 97},          {optA.Caption, 66},    {optB.Caption, 67},
+              {chkFlo.Caption, 68},        {chkSzen.Caption, 69}, {lblSiegbed.Caption, 70},
+              {fraSetPlayers.Caption, 98}, {lblB.Caption, 99},    {fraSpielInfo.Caption, 72},
+              {lblC.Caption, 73},          {lblD.Caption, 74},    {cmdStart.Caption, 100},
               {cmdCancel.Caption, 77}};
+  Caption = platform::WithoutMnemonic(state().Text(2));
   for (const auto& [caption, text] : rows) caption = state().Text(text);
   for (int i = 0; i < core::kSeats; ++i) lblSpieler(i).Caption = state().Text(16) + " " + std::to_string(i + 1);
 }
@@ -196,7 +189,7 @@ void F20::F20_cmdStart_Click() {
   chosen.Info = txtSpielinfo.Text;
   core::StartGame(state(), chosen);
   Leave();
-  if (Started) Started();
+  if (OnStart) OnStart();
 }
 
 }  // namespace dialogs

@@ -36,7 +36,7 @@ class F20 : public windows::Dialog {
   platform::ControlArray<platform::PictureBox> picGameStatus;
 
   /// Called when the game has been started and the dialog is closed: the windows follow the new game.
-  std::function<void()> Started;
+  std::function<void()> OnStart;
 
   /// Fills the dialog and opens it.
   void OpenNewGame();

@@ -95,33 +95,35 @@ void F4::OfferActions() {
   }
 }
 
-/// Carries the action out, or tells why it is refused.
-void F4::Apply(int actionCode) {
+/// Carries `ActionCode` out, or tells why it is refused.
+void F4::Apply() {
   core::Game& game = state().game;
-  game.ActionCode = static_cast<std::int16_t>(actionCode);
   const auto refusal = core::ApplyPlayerAction(game);
   if (!refusal) return;
   const std::string& name = game.Players[static_cast<std::size_t>(game.CurrentPlayer)].Name;
   context_.services.MessageBox(name + " " + state().Text(refusal->MessageText), state().Text(refusal->TitleText));
 }
 
-void F4::F4_cmdSP_Click(int index) {
-  Apply(index);
-  // The winner's window may lock the main window again, so it is unlocked before.
+/// The winner's window may lock the main window again, so it is unlocked before the panels are drawn.
+void F4::LeaveAndDraw() {
   Unlock();
   core::CalcPoints(state().game, screen());
   Visible = false;
+}
+
+void F4::F4_cmdSP_Click(int index) {
+  state().game.ActionCode = static_cast<std::int16_t>(index);
+  Apply();
+  LeaveAndDraw();
 }
 
 void F4::F4_Form_KeyUp(int keyCode) {
   const int action = ActionOfKey(keyCode);
   if (action != 0) {
     state().game.ActionCode = static_cast<std::int16_t>(action);
-    if (core::ActionOffered(state().game.GameType, action)) Apply(action);
+    if (core::ActionOffered(state().game.GameType, action)) Apply();
   }
-  Unlock();
-  core::CalcPoints(state().game, screen());
-  Visible = false;
+  LeaveAndDraw();
 }
 
 }  // namespace dialogs

@@ -23,7 +23,8 @@ class F4 : public windows::Dialog {
   void SetCaptions() override;
 
  private:
-  void Apply(int actionCode);
+  void Apply();
+  void LeaveAndDraw();
   void F4_cmdSP_Click(int index);
   void F4_Form_KeyUp(int keyCode);
 };

@@ -92,12 +92,20 @@ void F7::SetCaptions() {
   cmdOK.Caption = state().Text(78);
 }
 
-void F7::Empty() {
-  picGewurfelt(kBlackRow).Image = imlW.Image(kBlankBlack);
-  picGewurfelt(kRedRow).Image = imlW.Image(kBlankRed);
-  picGewurfelt(kEventRow).Image = imlW.Image(kBlankGrey);
-  cmdOK.Enabled = false;
+/// Opens the dialog with what is entered so far.
+void F7::Start() {
   ShowEventRow(core::HasEventDie(state().game));
+  ShowChosen();
+  Open();
+}
+
+/// Shows the dice chosen so far, blank ones for the others, and whether they can be recorded.
+void F7::ShowChosen() {
+  const core::Entry& entry = state().entry;
+  picGewurfelt(kBlackRow).Image = imlW.Image(entry.Die1 > 0 ? entry.Die1 + kBeforeBlackFaces : kBlankBlack);
+  picGewurfelt(kRedRow).Image = imlW.Image(entry.Die2 > 0 ? entry.Die2 : kBlankRed);
+  picGewurfelt(kEventRow).Image = imlW.Image(entry.EventDie > 0 ? entry.EventDie + kBeforeEventFaces : kBlankGrey);
+  cmdOK.Enabled = core::EntryComplete(state());
 }
 
 void F7::ShowEventRow(bool visible) {
@@ -110,50 +118,34 @@ void F7::ShowEventRow(bool visible) {
 }
 
 void F7::PrepareDiceDialog() {
-  Empty();
   core::BeginEntry(state().entry);
-  Open();
+  Start();
 }
 
 void F7::OpenDiceDialogByKey(int value) {
-  Empty();
   core::BeginEntryWithDigit(state().entry, static_cast<std::int16_t>(value));
-  picGewurfelt(kBlackRow).Image = imlW.Image(value + kBeforeBlackFaces);
-  Open();
+  Start();
 }
 
-void F7::UpdateOk() { cmdOK.Enabled = core::EntryComplete(state()); }
-
 void F7::F7_Form_KeyUp(int keyCode) {
-  const core::Entry& entry = state().entry;
-  switch (core::EnterKey(state(), keyCode)) {
-    case core::Entered::BlackDie: picGewurfelt(kBlackRow).Image = imlW.Image(entry.Die1 + kBeforeBlackFaces); break;
-    case core::Entered::RedDie: picGewurfelt(kRedRow).Image = imlW.Image(entry.Die2); break;
-    case core::Entered::EventFace:
-      picGewurfelt(kEventRow).Image = imlW.Image(entry.EventDie + kBeforeEventFaces);
-      core::RecordRoll(state(), screen());
-      break;
-    case core::Entered::Nothing: break;
-  }
-  UpdateOk();
+  const core::Entered entered = core::EnterKey(state(), keyCode);
+  ShowChosen();
+  if (entered == core::Entered::EventFace) core::RecordRoll(state(), screen());
 }
 
 void F7::F7_picSW_MouseUp(int index) {
-  picGewurfelt(kBlackRow).Image = imlW.Image(index + 1 + kBeforeBlackFaces);
   state().entry.Die1 = static_cast<std::int16_t>(index + 1);
-  UpdateOk();
+  ShowChosen();
 }
 
 void F7::F7_picRW_MouseUp(int index) {
-  picGewurfelt(kRedRow).Image = imlW.Image(index + 1);
   state().entry.Die2 = static_cast<std::int16_t>(index + 1);
-  UpdateOk();
+  ShowChosen();
 }
 
 void F7::F7_picEW_MouseUp(int index) {
-  picGewurfelt(kEventRow).Image = imlW.Image(index + 1 + kBeforeEventFaces);
   state().entry.EventDie = static_cast<std::int16_t>(index + 1);
-  UpdateOk();
+  ShowChosen();
 }
 
 void F7::F7_cmdOK_Click() { core::RecordRoll(state(), screen()); }

@@ -32,9 +32,9 @@ class F7 : public windows::Dialog {
   void SetCaptions() override;
 
  private:
-  void Empty();
+  void Start();
   void ShowEventRow(bool visible);
-  void UpdateOk();
+  void ShowChosen();
   void F7_Form_KeyUp(int keyCode);
   void F7_picSW_MouseUp(int index);
   void F7_picRW_MouseUp(int index);

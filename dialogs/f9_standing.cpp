@@ -15,7 +15,11 @@ constexpr int kClientWidth = 8895;
 constexpr int kClientHeight = 3600;
 constexpr Place kHeadlinePlace{990, 240, 7005, 405};
 constexpr std::array<Place, 2> kWinnerPictures{{{60, 30, 825, 825}, {8040, 30, 825, 825}}};
-constexpr auto kHeads = Repeat<8>({4530, 840, 285, 285}, 450, 0);
+constexpr auto kHeads = [] {
+  auto places = Repeat<8>({4530, 840, 285, 285}, 450, 0);
+  places[4].Width = places[4].Height = 300;
+  return places;
+}();
 constexpr Place kTablePlace{870, 1170, 7215, 1725};
 constexpr std::array<Place, 2> kOptions{{{900, 3300, 4155, 315}, {900, 2940, 4185, 315}}};
 constexpr Place kOkPlace{6930, 3180, 1935, 375};
@@ -51,7 +55,8 @@ F9::F9(const windows::Context& context)
     // Not on the click: filling the window sets the options itself, and that must not fill it again.
     optWinOrder(view).MouseUp = [this, view](platform::MouseButton) { F9_optWinOrder_MouseUp(view); };
     optWinOrder(view).KeyUp = [this, view](platform::KeyCode code, platform::Modifiers) {
-      if (code == platform::kKeySpace) F9_optWinOrder_MouseUp(view);
+      const bool arrow = code >= platform::kKeyLeft && code <= platform::kKeyDown;
+      if (arrow || code == platform::kKeySpace) F9_optWinOrder_MouseUp(view);
     };
   }
 }

@@ -4,6 +4,7 @@
 #include "../core/dice_stats.h"
 #include "../core/number_text.h"
 #include "../storage/code_page.h"
+#include "../windows/form_metrics.h"
 #include "../windows/image_lists.h"
 
 namespace mainwindow {
@@ -142,7 +143,7 @@ void DrawTotal(const State& state, Surface& picW) {
 
 void DrawDiceChart(State& state, const std::string& decimalSeparator, Surface& picW) {
   core::ComputeDiceFigures(state.game);
-  picW.ForeColor = kLightGrey;
+  picW.ForeColor = windows::kLightGrey;
   picW.Cls();
   DrawFrame(picW);
   DrawHistogram(state, decimalSeparator, picW);

@@ -9,9 +9,6 @@
 
 namespace mainwindow {
 
-/// Light grey of plain text on the chart and on the strip of the last rolls.
-inline constexpr platform::Colour kLightGrey{232, 232, 232};
-
 /// Works out the figures of the game and draws them. `decimalSeparator` is the system's.
 void DrawDiceChart(core::State& state, const std::string& decimalSeparator, platform::Surface& picW);
 

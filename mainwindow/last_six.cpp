@@ -2,13 +2,14 @@
 
 #include <string>
 
-#include "dice_chart.h"
+#include "../windows/form_metrics.h"
 
 namespace mainwindow {
 namespace {
 
 using platform::Colour;
 using platform::Surface;
+using windows::kLightGrey;
 
 constexpr int kShown = 6;
 constexpr int kPitch = 70;

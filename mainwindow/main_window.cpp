@@ -25,7 +25,7 @@ MainWindow::MainWindow(platform::Services& services)
       services_(services) {
   WireInput();
   F1.timSpielzeit.Tick = [this] { F1_timSpielzeit_Timer(); };
-  F20.Started = [this] { FollowNewGame(); };
+  F20.OnStart = [this] { FollowNewGame(); };
   // Closing the window ends the process at once: nothing is asked and nothing is stored.
   F1.Close = [this] { services_.Quit(0); };
 }
@@ -77,7 +77,11 @@ void MainWindow::FollowNewGame() {
   core::CalcPoints(State.game, *this);
 }
 
-void MainWindow::ShowEventDie() { F1.picWurfel(2).Visible = core::HasEventDie(State.game); }
+/// Of a kind of game that only a file can bring nothing is known: the die stays as it is.
+void MainWindow::ShowEventDie() {
+  if (State.game.GameType == core::kBaseGame) F1.picWurfel(2).Visible = false;
+  if (State.game.GameType == core::kFirstExpansion) F1.picWurfel(2).Visible = true;
+}
 
 void MainWindow::F1_timSpielzeit_Timer() {
   core::Tick(State.game);

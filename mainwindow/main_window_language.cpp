@@ -1,6 +1,7 @@
 // The language of the main window: finds it, reads its texts and puts them into the captions.
 #include <fstream>
 
+#include "../platform/mnemonic.h"
 #include "../storage/language_file.h"
 #include "main_window.h"
 
@@ -61,7 +62,7 @@ void MainWindow::SetCaptions() {
     if (command.Text == 0) continue;
     const std::string& text = State.Text(command.Text);
     (*F1.MenuBar)[command.Menu.Name].Caption = text;
-    if (command.Tool != 0) F1.tbrMenu.SetToolTip(command.Tool, text);
+    if (command.Tool != 0) F1.tbrMenu.SetToolTip(command.Tool, platform::WithoutMnemonic(text));
   }
   ShowClockCaption();
   for (int i = 0; i < core::kSeats; ++i) F1.picSP(i).ToolTipText = State.Text(27 + i);

@@ -6,19 +6,11 @@
 #include "main_window.h"
 
 namespace mainwindow {
-namespace {
-
-/// Half of the room left over, in twips.
-int Half(int room) { return room / 2; }
-
-}  // namespace
 
 Started MainWindow::Load() {
   SetWorkingFolder();
   F1.MoveTo(0, 0);
-  core::SetBasicDefaults(State);
-  core::SetKeyAndLanguageDefaults(State);
-  core::SetDisplayDefaults(State);
+  core::SetDefaults(State);
   LoadSettings();
   F7.ShowHotkeys();
   core::BeginWithoutGame(State);
@@ -48,7 +40,7 @@ void MainWindow::LoadSettings() {
 
 void MainWindow::CentreDialogs() {
   for (windows::Dialog* dialog : Dialogs()) {
-    dialog->MoveTo(Half(F1.Width() - dialog->Width()), Half(F1.Height() - dialog->Height()));
+    dialog->MoveTo((F1.Width() - dialog->Width()) / 2, (F1.Height() - dialog->Height()) / 2);
   }
 }
 

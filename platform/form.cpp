@@ -52,17 +52,29 @@ void Form::PropertyChanged(Aspect aspect) {
 }
 
 void Form::KeyPress(KeyCode code, Modifiers with) {
-  if (!AcceptsInput() || !held_.insert(code).second) return;
+  if (!AcceptsInput() || std::find(held_.begin(), held_.end(), code) != held_.end()) return;
+  held_.push_back(code);
   MenuItem* item = MenuBar ? MenuBar->Find(code, with) : nullptr;
   if (item) {
     ClickMenu(*item);
   } else if (code == kKeyTab && !with.Control && !with.Alt) {
     MoveFocus(with.Shift ? -1 : 1);
+  } else if (code >= kKeyLeft && code <= kKeyDown) {
+    MoveOption(code == kKeyLeft || code == kKeyUp ? -1 : 1);
   }
 }
 
 void Form::KeyRelease(KeyCode code, Modifiers with) {
-  if (held_.erase(code) == 0 || !AcceptsInput()) return;
+  const auto found = std::find(held_.begin(), held_.end(), code);
+  if (found == held_.end() || !AcceptsInput()) return;
+  const std::vector<KeyCode> later(found + 1, held_.end());
+  held_.erase(found);
+  RouteRelease(code, with);
+  Form* next = AcceptsInput() ? nullptr : desktop_.KeyReceiver(*this);
+  if (next) next->held_.insert(next->held_.end(), later.begin(), later.end());
+}
+
+void Form::RouteRelease(KeyCode code, Modifiers with) {
   if (PressDialogKey(code)) return;
   if (KeyPreview && KeyUp) KeyUp(code, with);
   Control* focus = Focus();
@@ -137,6 +149,22 @@ void Form::SetFocus(Control& control) {
   if (focus_ == &control) return;
   focus_ = &control;
   if (View) View->ControlChanged(control, Aspect::Focus);
+}
+
+/// Arrows walk along the option buttons of a group and set the one they come to.
+void Form::MoveOption(int step) {
+  auto* focused = dynamic_cast<OptionButton*>(Focus());
+  if (!focused) return;
+  std::vector<OptionButton*> group;
+  for (Control* control : focused->Parent()->Controls()) {
+    auto* option = dynamic_cast<OptionButton*>(control);
+    if (option && option->Usable()) group.push_back(option);
+  }
+  const auto at = std::find(group.begin(), group.end(), focused) - group.begin();
+  const auto count = static_cast<std::ptrdiff_t>(group.size());
+  OptionButton& next = *group[static_cast<std::size_t>((at + step + count) % count)];
+  SetFocus(next);
+  next.Value = true;
 }
 
 void Form::MoveFocus(int step) {

@@ -2,14 +2,15 @@
 // without any window: a view (or a test) hands in what the user does, and the form decides whom it reaches.
 //
 // Rules of the routing: a form that is hidden or disabled takes nothing, its shortcuts included. A key counts on its
-// release, and only in the form that saw its press; a key that is held counts once. A form that previews keys sees each
-// release before the control in focus, and there Space and Enter press no button but the default one.
+// release, and only in the form that saw its press; a key that is held counts once. Where a release opens or closes a
+// form, keys that went down after that key are the next form's, so that overlapping typing loses none; what was down
+// before stays without effect. A form that previews keys sees each release before the control in focus, and there Space
+// and Enter press no button but the default one.
 #pragma once
 
 #include <functional>
 #include <memory>
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -84,13 +85,15 @@ class Form : public Container {
 
  private:
   bool Takes(Control& control) const { return AcceptsInput() && control.Usable(); }
+  void RouteRelease(KeyCode code, Modifiers with);
   bool PressDialogKey(KeyCode code);
+  void MoveOption(int step);
   CommandButton* ButtonFor(KeyCode code) const;
   void MoveFocus(int step);
   std::vector<Control*> TabOrder() const;
 
   Desktop& desktop_;
-  std::set<KeyCode> held_;
+  std::vector<KeyCode> held_;  ///< in the order in which they went down
   Control* focus_ = nullptr;
 };
 

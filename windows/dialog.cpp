@@ -3,7 +3,11 @@
 namespace windows {
 
 void Dialog::Open() {
-  Visible = true;
+  if (Visible) {
+    context_.desktop.BringToFront(*this);
+  } else {
+    Visible = true;
+  }
   context_.F1.Enabled = false;
 }
 

@@ -16,6 +16,9 @@ constexpr std::array<platform::Place, Count> Repeat(platform::Place first, int r
   return places;
 }
 
+/// Plain text on the dice chart and on the strip of the last rolls.
+inline constexpr platform::Colour kLightGrey{232, 232, 232};
+
 /// The ground of tables that are drawn in black and grey, on light and dark desktops alike.
 inline constexpr platform::Colour kPaper{246, 243, 234};
 

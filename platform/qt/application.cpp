@@ -6,6 +6,7 @@
 
 #include "convert.h"
 #include "fonts.h"
+#include "pictures.h"
 
 namespace platform::qt {
 
@@ -21,5 +22,7 @@ Application::Application(char* programPath, const char* name, const Picture& ico
     QApplication::installTranslator(&toolkitWords_);
   }
 }
+
+Application::~Application() { ForgetPictures(); }
 
 }  // namespace platform::qt

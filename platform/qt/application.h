@@ -14,6 +14,8 @@ class Application {
   /// `name` of the program as titles show it. The command line is not read.
   Application(char* programPath, const char* name, const Picture& icon);
 
+  ~Application();
+
   /// Runs until the program quits; its status.
   int Run() { return application_.exec(); }
 

@@ -1,13 +1,10 @@
 #include "form_window.h"
 
 #include <QCloseEvent>
-#include <QIcon>
 #include <QMenu>
-#include <QTimer>
 
 #include "convert.h"
 #include "fonts.h"
-#include "mnemonic.h"
 #include "shortcut_text.h"
 
 namespace platform::qt {
@@ -30,7 +27,8 @@ FormWindow::FormWindow(Form& form, QWidget* owner)
   const int menuHeight = menuBar_ ? menuBar_->height() : 0;
   form_.MenuBarHeight = menuHeight * kTwipsPerPixel;
   const QSize size = ToQt(form_.Position.Get()).size();
-  client_->setFocusPolicy(Qt::ClickFocus);  // so that a menu has where to give the focus back
+  // So that a menu has where to give the focus back.
+  if (menuBar_) client_->setFocusPolicy(Qt::ClickFocus);
   client_->setGeometry(0, menuHeight, size.width(), size.height());
   setFixedSize(size.width(), size.height() + menuHeight);
   widgets_.Build(form_, client_);
@@ -38,7 +36,10 @@ FormWindow::FormWindow(Form& form, QWidget* owner)
   FormChanged(Aspect::Title);
 }
 
-FormWindow::~FormWindow() { form_.View = nullptr; }
+FormWindow::~FormWindow() {
+  form_.View = nullptr;
+  if (form_.MenuBar) form_.MenuBar->OnChange = nullptr;
+}
 
 void FormWindow::BuildMenuBar() {
   menuBar_ = new QMenuBar(this);
@@ -78,7 +79,7 @@ void FormWindow::ControlChanged(Control& control, Aspect aspect) {
 }
 
 void FormWindow::FormChanged(Aspect aspect) {
-  if (aspect == Aspect::Title) setWindowTitle(WithoutMnemonic(form_.Caption));
+  if (aspect == Aspect::Title) setWindowTitle(ToQt(form_.Caption.Get()));
   if (aspect == Aspect::Picture || aspect == Aspect::Drawing) client_->update();
 }
 
@@ -101,10 +102,13 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 
 void FormWindow::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
-  client_->setFocus();
+  if (menuBar_) client_->setFocus();
   if (Control* focus = form_.Focus()) widgets_.Update(*focus, Aspect::Focus);
-  // The window manager adds its frame a moment later.
-  QTimer::singleShot(100, this, [this] { LearnFrame(); });
+}
+
+void FormWindow::moveEvent(QMoveEvent* event) {
+  QWidget::moveEvent(event);
+  LearnFrame();
 }
 
 void FormWindow::LearnFrame() {

@@ -23,17 +23,20 @@ class FormWindow : public QWidget, public FormView {
   /// `origin`, where the main window stood at first (pixels).
   void FollowVisible(QPoint origin);
 
+  /// Takes note of what the window manager has put round the window.
+  void LearnFrame();
+
   void ControlChanged(Control& control, Aspect aspect) override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
 
  private:
   void BuildMenuBar();
   void ShowCaption(MenuItem& item);
   void FormChanged(Aspect aspect);
-  void LearnFrame();
 
   Form& form_;
   QMenuBar* menuBar_ = nullptr;

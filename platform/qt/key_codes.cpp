@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <array>
+#include <string_view>
 
 namespace platform::qt {
 namespace {
@@ -31,6 +32,23 @@ constexpr quint32 kScanOf0 = 19;
 bool ScanCodesAreKnown() {
   static const bool known = QGuiApplication::platformName() == "xcb" || QGuiApplication::platformName() == "wayland";
   return known;
+}
+
+// The letters by scan code, row by row, as they stand on a keyboard with Latin letters.
+struct LetterRow {
+  quint32 firstScan;
+  std::string_view letters;
+};
+constexpr LetterRow kLetterRows[] = {{24, "QWERTYUIOP"}, {38, "ASDFGHJKL"}, {52, "ZXCVBNM"}};
+
+/// The letter at the key's place, for keyboards whose letters are not Latin.
+KeyCode LetterByPlace(const QKeyEvent& event) {
+  if (!ScanCodesAreKnown() || event.key() <= 0xFF || event.key() >= Qt::Key_Escape) return kKeyUnknown;
+  for (const LetterRow& row : kLetterRows) {
+    const quint32 place = event.nativeScanCode() - row.firstScan;
+    if (place < row.letters.size()) return row.letters[place];
+  }
+  return kKeyUnknown;
 }
 
 KeyCode PadCode(int key) {
@@ -65,7 +83,7 @@ KeyCode CodeOf(const QKeyEvent& event) {
   }
   // An umlaut or accented letter with a key of its own has the number of its character. Other signs would get the
   // numbers of arrows and function keys.
-  return key >= Qt::Key_Agrave && key <= 0xFF ? key : kKeyUnknown;
+  return key >= Qt::Key_Agrave && key <= 0xFF ? key : LetterByPlace(event);
 }
 
 Modifiers ModifiersOf(Qt::KeyboardModifiers held) {

@@ -37,11 +37,16 @@ Decoded Decode(const Picture& picture) {
   return decoded;
 }
 
+QHash<QString, std::shared_ptr<Decoded>> kept;
+
 Decoded& Find(const Picture& picture) {
-  static QHash<QString, std::shared_ptr<Decoded>> kept;
   std::shared_ptr<Decoded>& found = kept[PathOf(picture)];
   const bool stale = found && !picture.IsResource && QFileInfo(PathOf(picture)).lastModified() != found->fileTime;
-  if (!found || stale) found = std::make_shared<Decoded>(Decode(picture));
+  if (!found || stale) {
+    auto fresh = std::make_shared<Decoded>(Decode(picture));
+    // A file that has vanished or is damaged now leaves the picture that was seen so far.
+    if (!found || !fresh->Size().isEmpty()) found = std::move(fresh);
+  }
   return *found;
 }
 
@@ -57,6 +62,8 @@ QPixmap Render(const Decoded& decoded, qreal ratio) {
 }
 
 }  // namespace
+
+void ForgetPictures() { kept.clear(); }
 
 QSize SizeOf(const Picture& picture) { return picture.Empty() ? QSize() : Find(picture).Size(); }
 

@@ -19,4 +19,7 @@ QPixmap PixmapOf(const Picture& picture, qreal devicePixelRatio);
 /// Draws the picture at its natural size with its top left corner at the point; nothing if it cannot be loaded.
 void Draw(QPainter& painter, const Picture& picture, QPointF at);
 
+/// Lets go of all decoded pictures; the application calls it before it ends.
+void ForgetPictures();
+
 }  // namespace platform::qt

@@ -7,7 +7,6 @@
 #include <chrono>
 
 #include "convert.h"
-#include "mnemonic.h"
 #include "pictures.h"
 
 namespace platform::qt {
@@ -19,7 +18,7 @@ Answer QtServices::MessageBox(const std::string& text, const std::string& title,
   QMessageBox box(QApplication::activeWindow());
   box.setTextFormat(Qt::PlainText);
   box.setText(ToQt(text));
-  box.setWindowTitle(title.empty() ? QApplication::applicationName() : WithoutMnemonic(title));
+  box.setWindowTitle(title.empty() ? QApplication::applicationName() : ToQt(title));
   if (icon == Icon::Critical) box.setIcon(QMessageBox::Critical);
   if (buttons == Buttons::YesNo) {
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);

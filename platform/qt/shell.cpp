@@ -41,8 +41,7 @@ bool BelongsToWidgetToo(KeyCode code, QWidget* focus) {
   if (code == kKeyAlt) return true;
   if (code == kKeyTab || code == kKeyEnter || code == kKeyEscape) return false;
   const bool text = qobject_cast<QLineEdit*>(focus) || qobject_cast<QPlainTextEdit*>(focus);
-  const bool arrow = code >= kKeyLeft && code <= kKeyDown;
-  return text || qobject_cast<QComboBox*>(focus) || (arrow && focus);
+  return text || qobject_cast<QComboBox*>(focus);
 }
 
 FormWindow* FormWindowOf(QObject* object) {
@@ -51,11 +50,8 @@ FormWindow* FormWindowOf(QObject* object) {
   return widget ? dynamic_cast<FormWindow*>(widget->window()) : nullptr;
 }
 
-/// Whether the user walks along the menu bar by keyboard. The bar may keep the focus when it is left.
-bool MenuIsInUse() {
-  auto* bar = qobject_cast<QMenuBar*>(QApplication::focusWidget());
-  return bar && bar->activeAction();
-}
+/// Whether the user walks along the menu bar by keyboard.
+bool MenuIsInUse() { return qobject_cast<QMenuBar*>(QApplication::focusWidget()) != nullptr; }
 
 /// The user has put the focus on a widget: the form's focus is there too.
 void FollowFocus(QWidget* widget) {
@@ -74,11 +70,15 @@ Shell::Shell(Desktop& desktop, Form& mainForm) : desktop_(desktop), mainForm_(ma
   desktop_.OnChange = [this](Form& form, Aspect aspect) { FormChanged(form, aspect); };
   qApp->installEventFilter(this);
   connect(qApp, &QApplication::focusChanged, this, [](QWidget*, QWidget* now) { FollowFocus(now); });
+  connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](QWindow* window) { FollowFocusWindow(window); });
 }
 
 Shell::~Shell() {
   qApp->removeEventFilter(this);
   desktop_.OnChange = nullptr;
+  for (Form* form : desktop_.Forms()) {
+    for (Timer* timer : form->Timers) timer->OnChange = nullptr;
+  }
   // Dialogs are children of the main window and go before it.
   for (auto& [form, window] : windows_) {
     if (form != &mainForm_) window.reset();
@@ -108,6 +108,7 @@ void Shell::StartTimers(Form& form) {
 }
 
 void Shell::FormChanged(Form& form, Aspect aspect) {
+  if (aspect == Aspect::Focus) BringToFront(form);
   if (aspect != Aspect::Visible) return;
   if (!form.Visible) {
     // The keyboard goes back before the window goes, so that the next key finds a window of the program.
@@ -117,9 +118,6 @@ void Shell::FormChanged(Form& form, Aspect aspect) {
     return;
   }
   MakeWindow(form).FollowVisible(origin_);
-  if (&form == &mainForm_) {
-    QTimer::singleShot(100, this, [this] { origin_ = WindowOf(mainForm_)->frameGeometry().topLeft(); });
-  }
 }
 
 bool Shell::eventFilter(QObject* watched, QEvent* event) {
@@ -141,21 +139,22 @@ bool Shell::FilterForWindow(FormWindow& window, QEvent& event) {
     return HandleKey(window, static_cast<QKeyEvent&>(event));
   }
   if (!IsUserInput(event.type()) || window.Model().AcceptsInput()) return false;
-  if (event.type() == QEvent::MouseButtonPress) RaiseFrontDialog();
+  Form* front = event.type() == QEvent::MouseButtonPress ? desktop_.Front() : nullptr;
+  if (front) BringToFront(*front);
   return true;
 }
 
 bool Shell::HandleKey(FormWindow& window, QKeyEvent& event) {
   if (MenuIsInUse()) return false;
-  QPointer<FormWindow> still(&window);
   const bool own = window.Model().AcceptsInput();
+  SettleReleases(CodeOf(event));
   Form* receiver = desktop_.KeyReceiver(window.Model());
   if (event.type() == QEvent::KeyPress) {
     PressKey(receiver, event);
   } else {
     ReleaseKey(receiver, event);
   }
-  return !own || !still || !BelongsToWidgetToo(CodeOf(event), window.focusWidget());
+  return !own || !BelongsToWidgetToo(CodeOf(event), window.focusWidget());
 }
 
 void Shell::PressKey(Form* receiver, const QKeyEvent& event) {
@@ -171,24 +170,50 @@ void Shell::ReleaseKey(Form* receiver, const QKeyEvent& event) {
   const auto verdict = keys_.Release(code, time, event.isAutoRepeat());
   if (verdict == KeyTracker::Verdict::Counts && receiver) receiver->KeyRelease(code, with);
   if (verdict != KeyTracker::Verdict::Waits) return;
-  QTimer::singleShot(KeyTracker::kPatience, this, [this, receiver, code, with, time] {
-    if (keys_.Expired(code, time) && receiver) receiver->KeyRelease(code, with);
-  });
+  waiting_.push_back({receiver, code, with, time});
+  QTimer::singleShot(KeyTracker::kPatience, this, [this] { SettleReleases(kKeyUnknown); });
+}
+
+/// Lets the releases that wait count, but for those of a key whose repeat may be coming in now: a repeat follows its
+/// own release directly, so a key of another code shows that the others came up for good.
+void Shell::SettleReleases(KeyCode except) {
+  std::vector<WaitingRelease> due;
+  due.swap(waiting_);
+  for (const WaitingRelease& release : due) {
+    if (release.code == except) {
+      waiting_.push_back(release);
+    } else if (keys_.Expired(release.code, release.since) && release.receiver && !QApplication::activeModalWidget()) {
+      release.receiver->KeyRelease(release.code, release.with);
+    }
+  }
 }
 
 void Shell::FollowActivation(FormWindow& window, QEvent::Type type) {
-  if (type == QEvent::WindowActivate) return desktop_.Activated(window.Model());
+  if (type == QEvent::WindowActivate) {
+    if (&window.Model() == &mainForm_ && !originKnown_) {
+      origin_ = window.frameGeometry().topLeft();
+      originKnown_ = true;
+    }
+    window.LearnFrame();
+    return desktop_.Activated(window.Model());
+  }
   // A dialog that opened just now may still get keys through this window; they are not this form's any more.
   if (window.Model().AcceptsInput()) window.Model().ForgetKeys();
 }
 
-void Shell::RaiseFrontDialog() {
-  for (auto& [form, window] : windows_) {
-    if (form != &mainForm_ && form->AcceptsInput()) {
-      window->raise();
-      window->activateWindow();
-    }
-  }
+/// Keys that are down while a message box or another program gets the keyboard come up there.
+void Shell::FollowFocusWindow(QWindow* window) {
+  if (window && FormWindowOf(window)) return;
+  keys_.Forget();
+  waiting_.clear();
+}
+
+void Shell::BringToFront(Form& form) {
+  FormWindow* window = WindowOf(form);
+  if (!window) return;
+  if (window->isMinimized()) window->showNormal();
+  window->raise();
+  window->activateWindow();
 }
 
 }  // namespace platform::qt

@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <map>
 #include <memory>
+#include <vector>
 
 #include "../desktop.h"
 #include "../key_tracker.h"
@@ -29,6 +30,14 @@ class Shell : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  /// A release that counts unless a repeat of its key follows at once.
+  struct WaitingRelease {
+    Form* receiver;
+    KeyCode code;
+    Modifiers with;
+    KeyTracker::Time since;
+  };
+
   FormWindow& MakeWindow(Form& form);
   void StartTimers(Form& form);
   void FormChanged(Form& form, Aspect aspect);
@@ -37,14 +46,18 @@ class Shell : public QObject {
   bool HandleKey(FormWindow& window, QKeyEvent& event);
   void PressKey(Form* receiver, const QKeyEvent& event);
   void ReleaseKey(Form* receiver, const QKeyEvent& event);
+  void SettleReleases(KeyCode except);
   void FollowActivation(FormWindow& window, QEvent::Type type);
-  void RaiseFrontDialog();
+  void FollowFocusWindow(QWindow* window);
+  void BringToFront(Form& form);
 
   Desktop& desktop_;
   Form& mainForm_;
   QPoint origin_;
+  bool originKnown_ = false;
   std::map<const Form*, std::unique_ptr<FormWindow>> windows_;
   KeyTracker keys_;
+  std::vector<WaitingRelease> waiting_;
 };
 
 }  // namespace platform::qt

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFrame>
+#include <utility>
 
 #include "convert.h"
 #include "pictures.h"
@@ -51,7 +52,8 @@ void PictureWidget::PaintBorder(QPainter& painter) const {
 }
 
 void PictureWidget::mouseReleaseEvent(QMouseEvent* event) {
-  if (!rect().contains(event->position().toPoint())) return;
+  const bool pressedHere = std::exchange(pressed_, Qt::NoButton) == event->button();
+  if (!pressedHere || !rect().contains(event->position().toPoint())) return;
   if (Form* form = box_.Owner()) form->MouseUp(box_, ButtonOf(event->button()));
 }
 

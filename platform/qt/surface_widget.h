@@ -16,11 +16,12 @@ class PictureWidget : public QWidget {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override { event->accept(); }
+  void mousePressEvent(QMouseEvent* event) override { pressed_ = event->button(); }
 
  private:
   void PaintBorder(QPainter& painter) const;
   PictureBox& box_;
+  Qt::MouseButton pressed_ = Qt::NoButton;
 };
 
 class ClientWidget : public QWidget {

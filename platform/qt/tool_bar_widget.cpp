@@ -3,7 +3,6 @@
 #include <QPainter>
 
 #include "../form.h"
-#include "mnemonic.h"
 #include "pictures.h"
 
 namespace platform::qt {
@@ -45,7 +44,7 @@ void ToolBarWidget::UpdateToolTips() {
   for (int index = 1; index <= bar_.Count(); ++index) {
     QToolButton* button = buttons_[static_cast<std::size_t>(index - 1)];
     if (!button) continue;
-    const QString text = WithoutMnemonic(bar_.ToolTip(index));
+    const QString text = QString::fromStdString(bar_.ToolTip(index));
     button->setToolTip(text);
     button->setAccessibleName(text);
   }

@@ -13,7 +13,6 @@
 #include "button_widget.h"
 #include "convert.h"
 #include "fonts.h"
-#include "mnemonic.h"
 #include "tool_bar_widget.h"
 
 namespace platform::qt {
@@ -32,7 +31,7 @@ void WidgetUpdater::Common(Control& control) {
   switch (aspect_) {
     case Aspect::Visible: widget_.setVisible(control.Visible); break;
     case Aspect::Enabled: widget_.setEnabled(control.Enabled); break;
-    case Aspect::ToolTip: widget_.setToolTip(WithoutMnemonic(control.ToolTipText)); break;
+    case Aspect::ToolTip: widget_.setToolTip(ToQt(control.ToolTipText.Get())); break;
     case Aspect::Place: widget_.setGeometry(ToQt(control.Position.Get())); break;
     case Aspect::Font: widget_.setFont(ToQt(control.Face.Get())); break;
     case Aspect::Focus: widget_.setFocus(); break;

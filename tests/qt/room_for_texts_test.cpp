@@ -2,10 +2,10 @@
 #include <QFontMetrics>
 #include <fstream>
 
+#include "../../platform/mnemonic.h"
 #include "../../platform/qt/button_widget.h"
 #include "../../platform/qt/convert.h"
 #include "../../platform/qt/fonts.h"
-#include "../../platform/qt/mnemonic.h"
 #include "../../storage/language_file.h"
 #include "real_windows.h"
 
@@ -47,7 +47,7 @@ class Measure : public platform::ControlVisitor {
     const QRect place = ToQt(control.Position.Get());
     const QFont font = ToQt(control.Face.Get());
     const QFontMetrics metrics(font);
-    const QString text = platform::qt::WithoutMnemonic(caption);
+    const QString text = ToQt(platform::WithoutMnemonic(caption));
     const QString wrapped = lines ? platform::qt::Wrapped(text, place.width() - taken, font) : text;
     const QSize size = metrics.size(0, wrapped);
     const std::string where = language_ + ": " + control.Owner()->Name + "." + control.Name + " \"" + caption + "\"";
