@@ -72,11 +72,14 @@ std::string ToCodePage(std::string_view utf8) {
   return bytes;
 }
 
-bool FitsCodePage(std::string_view utf8) {
-  while (!utf8.empty()) {
-    if (!ByteOf(TakeCharacter(utf8))) return false;
+std::string Storable(const std::string& utf8) {
+  std::string text;
+  std::string_view rest = utf8;
+  while (!rest.empty()) {
+    const char32_t character = TakeCharacter(rest);
+    if (character >= ' ' && ByteOf(character)) AppendUtf8(text, character);
   }
-  return true;
+  return text;
 }
 
 std::string CharacterOf(int code) {

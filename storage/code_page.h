@@ -15,8 +15,9 @@ std::string FromCodePage(std::string_view bytes);
 /// The bytes of a text; a character that the code page does not have becomes "?".
 std::string ToCodePage(std::string_view utf8);
 
-/// Whether a file can hold this text as it is.
-bool FitsCodePage(std::string_view utf8);
+/// What of a typed text one line of a file can hold: characters that the code page lacks and control characters are
+/// left out. For the text fields whose content reaches a file.
+std::string Storable(const std::string& utf8);
 
 /// The character with this code, 0 to 255, as text; empty for any other number.
 std::string CharacterOf(int code);

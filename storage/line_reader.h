@@ -1,10 +1,14 @@
-// Reads a text file of the program line by line, from the code page into UTF-8.
+// Reads a text file of the program line by line, from the code page into UTF-8. A file that is none, or that the
+// machine cannot read to its end, costs neither memory nor an exception: it ends where it went wrong.
 #pragma once
 
 #include <istream>
 #include <string>
 
 namespace storage {
+
+/// Bytes of the longest line that is read; no text of the program comes near it.
+inline constexpr std::size_t kLongestLine = 1 << 20;
 
 /// Where a line ends besides at a carriage return with or without line feed.
 enum class LineFeeds {
@@ -15,12 +19,19 @@ enum class LineFeeds {
 class LineReader {
  public:
   LineReader(std::istream& file, LineFeeds lineFeeds) : file_(*file.rdbuf()), lineFeeds_(lineFeeds) {}
-  /// Reads the next line into `line`; false at the end of the file. An unfinished last line counts if it is not empty.
+  /// Reads the next line into `line`; false at the end of the file, and from a line on that is longer than
+  /// `kLongestLine` or cannot be read. An unfinished last line counts if it is not empty.
   bool Next(std::string& line);
+  /// Whether it was a line's length that ended the reading.
+  bool EndedByLength() const { return endedByLength_; }
 
  private:
+  bool NextBytes(std::string& bytes);
+
   std::streambuf& file_;
   LineFeeds lineFeeds_;
+  bool ended_ = false;
+  bool endedByLength_ = false;
 };
 
 }  // namespace storage

@@ -89,5 +89,10 @@ TEST(LanguageFileTest, EleventhBlockIsNotListed) {
   EXPECT_EQ(reading.Names.back(), "L10");
 }
 
+TEST(LanguageFileTest, NothingBehindALineWithoutEndIsRead) {
+  EXPECT_THAT(Read(kMark + std::string(1'100'000, 'x') + "\r\n" + Block("Ours", "a"), "Ours").Names,
+              testing::IsEmpty());
+}
+
 }  // namespace
 }  // namespace tests

@@ -1,0 +1,178 @@
+#include "safe_file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <optional>
+#include <utility>
+
+namespace storage {
+namespace {
+
+constexpr int kMostLinks = 40;
+constexpr int kMostNames = 1000;  // tried for the new file
+constexpr mode_t kRightsOfNewFiles = 0666;
+constexpr mode_t kAllRights = 07777;
+
+WriteFailure KindOf(int error) {
+  switch (error) {
+    case ENOENT:
+    case ENOTDIR: return WriteFailure::NoSuchFolder;
+    case EISDIR: return WriteFailure::NotAFile;
+    case EACCES:
+    case EPERM:
+    case EROFS: return WriteFailure::NotAllowed;
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG: return WriteFailure::NoRoom;
+    default: return WriteFailure::Other;
+  }
+}
+
+WriteOutcome Failed(int error = errno) { return {KindOf(error), std::error_code(error, std::generic_category())}; }
+
+/// Repeats a call that a signal interrupted.
+template <typename Call>
+auto Uninterrupted(Call call) {
+  auto result = call();
+  while (result == -1 && errno == EINTR) result = call();
+  return result;
+}
+
+/// An open file or folder.
+class Handle {
+ public:
+  explicit Handle(int number) : number_(number) {}
+  Handle(const Handle&) = delete;
+  Handle& operator=(const Handle&) = delete;
+  ~Handle() { Close(); }
+  int Number() const { return number_; }
+  bool IsOpen() const { return number_ != -1; }
+  /// False if the system held back an error until now.
+  bool Close() {
+    const int number = std::exchange(number_, -1);
+    return number == -1 || close(number) == 0 || errno == EINTR;
+  }
+
+ private:
+  int number_;
+};
+
+/// The new file beside the old one; gone again unless it was put in its place.
+class NewFile {
+ public:
+  NewFile(int folder, mode_t rights) : folder_(folder), file_(Create(rights)) {}
+  ~NewFile() {
+    if (exists_) unlinkat(folder_, name_.c_str(), 0);
+  }
+  bool IsOpen() const { return file_.IsOpen(); }
+  bool Write(std::string_view bytes);
+  bool TakeRights(const struct stat& old);
+  bool Sync() {
+    return Uninterrupted([this] { return fsync(file_.Number()); }) == 0 && file_.Close();
+  }
+  bool PutInPlaceOf(const std::string& name) {
+    const bool done = renameat(folder_, name_.c_str(), folder_, name.c_str()) == 0;
+    exists_ = exists_ && !done;
+    return done;
+  }
+
+ private:
+  int Create(mode_t rights);
+
+  int folder_;
+  std::string name_;
+  bool exists_ = false;
+  Handle file_;
+};
+
+/// A name that no other process takes, short enough for every file system.
+int NewFile::Create(mode_t rights) {
+  for (int i = 0; i < kMostNames; ++i) {
+    name_ = ".orvanbeg-" + std::to_string(getpid()) + "-" + std::to_string(i) + ".new";
+    const int file = Uninterrupted(
+        [&] { return openat(folder_, name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, rights); });
+    exists_ = file != -1;
+    if (exists_ || errno != EEXIST) return file;
+  }
+  return -1;
+}
+
+bool NewFile::Write(std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t written = Uninterrupted([&] { return write(file_.Number(), bytes.data(), bytes.size()); });
+    if (written == 0) errno = EIO;  // a device that takes nothing would keep this going for ever
+    if (written <= 0) return false;
+    bytes.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return true;
+}
+
+/// Only the owner's own groups and, for a superuser, other owners can be kept; whoever saves then owns the file.
+bool NewFile::TakeRights(const struct stat& old) {
+  struct stat own {};
+  if (fstat(file_.Number(), &own) != 0) return false;
+  if (own.st_uid != old.st_uid || own.st_gid != old.st_gid) {
+    if (fchown(file_.Number(), old.st_uid, old.st_gid) != 0 && fchown(file_.Number(), own.st_uid, old.st_gid) != 0) {
+      return fchmod(file_.Number(), old.st_mode & (S_IRWXU | S_IRWXO)) == 0;  // rights of a group that is not that one
+    }
+  }
+  return (own.st_mode & kAllRights) == (old.st_mode & kAllRights) ||
+         fchmod(file_.Number(), old.st_mode & kAllRights) == 0;
+}
+
+/// The file that is there now, or nothing; a failure where something else bears its name or it may not be replaced.
+WriteOutcome LookAt(const std::filesystem::path& target, std::optional<struct stat>& old) {
+  struct stat found {};
+  if (target.filename().empty()) return Failed(ENOENT);
+  if (lstat(target.c_str(), &found) != 0) return errno == ENOENT ? WriteOutcome{} : Failed();
+  if (!S_ISREG(found.st_mode)) return Failed(EISDIR);
+  if (access(target.c_str(), W_OK) != 0) return Failed();
+  old = found;
+  return {};
+}
+
+/// Some file systems know no syncing of folders.
+bool SyncFolder(int folder) {
+  return Uninterrupted([folder] { return fsync(folder); }) == 0 || errno == EINVAL || errno == ENOTSUP;
+}
+
+std::filesystem::path FolderOf(const std::filesystem::path& target) {
+  return target.has_parent_path() ? target.parent_path() : ".";
+}
+
+}  // namespace
+
+std::filesystem::path LinkTarget(std::filesystem::path path) {
+  std::error_code noLink;
+  for (int links = 0; links < kMostLinks; ++links) {
+    const auto next = std::filesystem::read_symlink(path, noLink);
+    if (noLink) return path;
+    path = path.parent_path() / next;
+  }
+  return {};
+}
+
+WriteOutcome WriteWhole(const std::filesystem::path& file, std::string_view bytes) {
+  const std::filesystem::path target = LinkTarget(file);
+  std::optional<struct stat> old;
+  if (const WriteOutcome looked = LookAt(target, old); !looked) return looked;
+  const Handle folder(open(FolderOf(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (!folder.IsOpen()) return Failed();
+  NewFile fresh(folder.Number(), old ? old->st_mode & kRightsOfNewFiles : kRightsOfNewFiles);
+  if (!fresh.IsOpen() || !fresh.Write(bytes) || (old && !fresh.TakeRights(*old)) || !fresh.Sync() ||
+      !fresh.PutInPlaceOf(target.filename().string()) || !SyncFolder(folder.Number())) {
+    return Failed();
+  }
+  return {};
+}
+
+bool CanWriteWhole(const std::filesystem::path& file) {
+  const std::filesystem::path target = LinkTarget(file);
+  std::optional<struct stat> old;
+  return LookAt(target, old) && access(FolderOf(target).c_str(), R_OK | W_OK | X_OK) == 0;
+}
+
+}  // namespace storage

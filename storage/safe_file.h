@@ -1,0 +1,41 @@
+// Puts a whole file on the disk so that at every moment, whatever happens, either the old file or the new one is there,
+// never a part of one.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace storage {
+
+/// Why a file could not be written, as far as a user can do something about it.
+enum class WriteFailure {
+  None,
+  NoSuchFolder,
+  NotAFile,    ///< a folder or a device bears the name
+  NotAllowed,  ///< by the rights of the file or the folder, or the disk is read-only
+  NoRoom,
+  Other,
+};
+
+struct WriteOutcome {
+  WriteFailure Failure = WriteFailure::None;
+  std::error_code Cause;  ///< the system's own word on it
+
+  explicit operator bool() const { return Failure == WriteFailure::None; }
+};
+
+/// Writes a new file beside the old one and puts it in its place once all bytes are safe on the disk; the old file's
+/// rights are kept, a link is followed. Success is told only when all of this is done. After a failure the old file is
+/// whole and nothing else is left, with one exception: where only the folder could not be synced at the very end, the
+/// new file is in place. Called by the commands that save and by the quit.
+WriteOutcome WriteWhole(const std::filesystem::path& file, std::string_view bytes);
+
+/// Whether WriteWhole may put a file there, as far as can be told without writing.
+bool CanWriteWhole(const std::filesystem::path& file);
+
+/// The file where a link, or a chain of them, leads; the path itself if it is no link. Nothing for a circle of links.
+std::filesystem::path LinkTarget(std::filesystem::path path);
+
+}  // namespace storage
