@@ -53,6 +53,7 @@ void F11::SetCaptions() { Caption = state().Text(96); }
 
 void F11::ShowAttack() {
   Visible = true;
+  ShareLock();
   picShowPlayers.Drawing.Cls();
   const int seats = core::SeatsPlayed(state().game);
   for (int seat = 1; seat <= seats; ++seat) {

@@ -36,13 +36,19 @@ class Dialog : public platform::Form {
   void Open();
   /// Unlocks the main window and hides the dialog.
   void Leave();
-  /// Only unlocks, for a dialog that has work to do before it hides.
-  void Unlock() { context_.F1.Enabled = true; }
+  /// Only gives the lock back, for a dialog that has work to do before it hides. The main window stays locked as long as
+  /// another dialog that is open holds it.
+  void Unlock();
+  /// Takes part in a lock that is there already, without making one.
+  void ShareLock() { locks_ = !context_.F1.Enabled; }
 
   core::State& state() { return context_.state; }
   core::Screen& screen() { return context_.screen; }
 
   Context context_;
+
+ private:
+  bool locks_ = false;
 };
 
 }  // namespace windows

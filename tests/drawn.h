@@ -1,0 +1,43 @@
+// What a surface shows, step by step and readable, for tests that compare whole drawings.
+#pragma once
+
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "../platform/surface.h"
+
+namespace tests {
+
+inline std::string At(double x, double y) {
+  char text[48];
+  std::snprintf(text, sizeof text, "%g,%g", x, y);
+  return text;
+}
+
+inline std::string Hex(platform::Colour ink) {
+  char text[8];
+  std::snprintf(text, sizeof text, "%02X%02X%02X", ink.Red, ink.Green, ink.Blue);
+  return text;
+}
+
+/// The steps in their order: `1,28 'Ada' Arial 18+ FFFF00` is a bold text (the face is told unless it is Verdana),
+/// `1,108-243,108 828282` a line, `17,1 imlIcons/04.svg` a picture.
+inline std::vector<std::string> Drawn(const platform::Surface& surface) {
+  std::vector<std::string> lines;
+  for (const platform::DrawingStep& step : surface.Steps()) {
+    if (const auto* text = std::get_if<platform::TextStep>(&step)) {
+      const std::string face = text->Face.Name == "Verdana" ? "" : text->Face.Name + " ";
+      const std::string size = At(text->Face.Size, 0);
+      lines.push_back(At(text->X, text->Y) + " '" + text->Text + "' " + face + size.substr(0, size.find(',')) +
+                      (text->Face.Bold ? "+ " : " ") + Hex(text->Ink));
+    } else if (const auto* picture = std::get_if<platform::PictureStep>(&step)) {
+      lines.push_back(At(picture->X, picture->Y) + " " + picture->Image.Name);
+    } else if (const auto* line = std::get_if<platform::LineStep>(&step)) {
+      lines.push_back(At(line->X1, line->Y1) + "-" + At(line->X2, line->Y2) + " " + Hex(line->Ink));
+    }
+  }
+  return lines;
+}
+
+}  // namespace tests
