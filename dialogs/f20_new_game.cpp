@@ -5,6 +5,7 @@
 
 #include "../core/new_game.h"
 #include "../platform/mnemonic.h"
+#include "../storage/code_page.h"
 #include "../windows/form_metrics.h"
 #include "../windows/image_lists.h"
 
@@ -106,6 +107,8 @@ F20::F20(const windows::Context& context)
   cmdA(0).Caption = cmdB(0).Caption = "-";
   cmdA(1).Caption = cmdB(1).Caption = "+";
   for (int i = picGameStatus.First(); i <= picGameStatus.Last(); ++i) picGameStatus(i).Opaque = false;
+  txtSpieltitel.Filter = txtSpielinfo.Filter = storage::Storable;
+  for (int i = 0; i < core::kSeats; ++i) txtSpielername(i).Filter = storage::Storable;
   WireEvents();
 }
 

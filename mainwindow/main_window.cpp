@@ -19,6 +19,7 @@ MainWindow::MainWindow(platform::Services& services)
     : F1(Desktop, MakeMenu()),
       F4({State, *this, services, Desktop, F1}),
       F7({State, *this, services, Desktop, F1}),
+      F8({State, *this, services, Desktop, F1}),
       F9({State, *this, services, Desktop, F1}),
       F11({State, *this, services, Desktop, F1}),
       F20({State, *this, services, Desktop, F1}),
@@ -26,6 +27,9 @@ MainWindow::MainWindow(platform::Services& services)
   WireInput();
   F1.timSpielzeit.Tick = [this] { F1_timSpielzeit_Timer(); };
   F20.OnStart = [this] { FollowNewGame(); };
+  F8.LoadThemeImages = [this](int theme) { LoadThemeImages(theme); };
+  F8.LoadLanguage = [this] { LoadLanguage(); };
+  F8.HotkeysChanged = [this] { F7.ShowHotkeys(); };
   // Closing the window ends the process at once: nothing is asked and nothing is stored.
   F1.Close = [this] { services_.Quit(0); };
 }
@@ -70,7 +74,10 @@ void MainWindow::CloseDiceDialog() { F7.Visible = false; }
 void MainWindow::FollowNewGame() {
   F1.ShowBlankDice();
   ShowEventDie();
-  if (State.settings.AutoHG.IsOn()) LoadThemeImages(core::ThemeOf(State.game));
+  if (State.settings.AutoHG.IsOn()) {
+    F8.ShowTheme(core::ThemeOf(State.game));
+    LoadThemeImages(core::ThemeOf(State.game));
+  }
   ShowClockCaption();
   ShowPlayerPanels();
   DrawDiceStats();
@@ -88,12 +95,10 @@ void MainWindow::F1_timSpielzeit_Timer() {
   DrawClockStrip(State, F1);
 }
 
-std::vector<windows::Dialog*> MainWindow::Dialogs() { return {&F4, &F7, &F9, &F11, &F20}; }
+std::vector<windows::Dialog*> MainWindow::Dialogs() { return {&F4, &F7, &F8, &F9, &F11, &F20}; }
 
 bool MainWindow::LoadThemeImages(int theme) {
   return mainwindow::LoadThemeImages(theme, State.settings, services_, F1);
 }
-
-void MainWindow::SaveSettings() {}
 
 }  // namespace mainwindow

@@ -9,9 +9,11 @@
 #include "../dialogs/f20_new_game.h"
 #include "../dialogs/f4_player_action.h"
 #include "../dialogs/f7_dice_entry.h"
+#include "../dialogs/f8_settings.h"
 #include "../dialogs/f9_standing.h"
 #include "../platform/desktop.h"
 #include "../platform/services.h"
+#include "../storage/game_file_reader.h"
 #include "commands.h"
 #include "f1.h"
 
@@ -20,7 +22,7 @@ namespace mainwindow {
 /// How the start-up went.
 enum class Started { Yes, NoLanguage };
 
-class MainWindow : public core::Screen {
+class MainWindow : public core::Screen, private storage::GameFileEvents {
  public:
   explicit MainWindow(platform::Services& services);
 
@@ -33,6 +35,7 @@ class MainWindow : public core::Screen {
   mainwindow::F1 F1;
   dialogs::F4 F4;
   dialogs::F7 F7;
+  dialogs::F8 F8;
   dialogs::F9 F9;
   dialogs::F11 F11;
   dialogs::F20 F20;
@@ -69,13 +72,13 @@ class MainWindow : public core::Screen {
  private:
   // Start-up, in main_window_start.cpp.
   void SetWorkingFolder();
-  void LoadSettings();
   void CentreDialogs();
 
   // The language, in main_window_language.cpp.
   Started LoadLanguage();
-  void ChooseFirstLanguage();
-  void TellShortBlock(int count);
+  bool ReadLanguageList();
+  void ReadTexts();
+  void TellOfBlock(int count);
   void SetCaptions();
   void ShowClockCaption();
 
@@ -89,13 +92,27 @@ class MainWindow : public core::Screen {
   void PrepareDataDialog(int seat);
   void AutoRoll(core::EventDieOf command);
 
+  // Files, in main_window_files.cpp.
+  void LoadSettings();
   void SaveSettings();
+  std::filesystem::path SettingsPath();
+  void LoadGame();
+  void SaveGame();
+  bool ChooseFile(int titleText, std::string filter, int flags);
+
   bool LoadThemeImages(int theme);
+
+  // storage::GameFileEvents
+  void TellNotAGameFile() override;
+  void TellOlderVersion() override;
+  bool ChooseBackground() override;
+  void ShowEventDie() override;
+
   void FollowNewGame();
-  void ShowEventDie();
   std::vector<windows::Dialog*> Dialogs();
 
   platform::Services& services_;
+  platform::FileDialog cmdLS_;  ///< keeps the name chosen last, in either direction
 };
 
 }  // namespace mainwindow

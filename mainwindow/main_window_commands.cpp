@@ -7,8 +7,8 @@
 namespace mainwindow {
 
 void MainWindow::F1_mnuGameNew_Click() { F20.OpenNewGame(); }
-void MainWindow::F1_mnuFileLoad_Click() {}
-void MainWindow::F1_mnuFileSaveAs_Click() {}
+void MainWindow::F1_mnuFileLoad_Click() { LoadGame(); }
+void MainWindow::F1_mnuFileSaveAs_Click() { SaveGame(); }
 void MainWindow::F1_mnuGameInfo_Click() {}
 void MainWindow::F1_mnuFilePrint_Click() {}
 void MainWindow::F1_mnuFileQuit_Click() { SaveSettings(); }
@@ -34,7 +34,7 @@ void MainWindow::F1_mnuExtraClock_Click() {
   ShowClockCaption();
 }
 
-void MainWindow::F1_mnuExtraSettings_Click() {}
+void MainWindow::F1_mnuExtraSettings_Click() { F8.OpenSettings(); }
 void MainWindow::F1_mnuExtraAutoDice_Click() { AutoRoll(core::EventDieOf::Menu); }
 void MainWindow::F1_mnuHelpKeys_Click() {}
 void MainWindow::F1_mnuHelpInfo_Click() {}

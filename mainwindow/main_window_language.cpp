@@ -1,4 +1,5 @@
 // The language of the main window: finds it, reads its texts and puts them into the captions.
+#include <algorithm>
 #include <fstream>
 
 #include "../platform/mnemonic.h"
@@ -10,48 +11,46 @@ namespace {
 
 constexpr const char* kLanguageFile = "language.ini";
 
-// What a language calls itself, by the code that the system knows it by.
-struct LanguageName {
-  const char* Code;
-  const char* Name;
-};
-constexpr LanguageName kLanguageNames[] = {
-    {"de", "Deutsch"},    {"en", "English"},   {"fr", "Français"}, {"es", "Español"}, {"it", "Italiano"},
-    {"nl", "Nederlands"}, {"pt", "Português"}, {"sv", "Svenska"},  {"da", "Dansk"},   {"fi", "Suomi"}};
-
 }  // namespace
 
+/// At the first run the settings dialog asks for a language; its OK comes here again and does the rest.
 Started MainWindow::LoadLanguage() {
-  const auto path = services_.ProgramFolder() / kLanguageFile;
-  std::ifstream names(path, std::ios::binary);
-  if (storage::ListLanguages(names, State.language) == 0) {
-    services_.MessageBox("Die Sprachdatei fehlt oder enthält keine Sprache. Das Programm wird beendet:\n" +
-                         path.string() + "\n\nThe language file is missing or holds no language. The program ends:\n" +
-                         path.string());
-    return Started::NoLanguage;
+  if (!ReadLanguageList()) return Started::NoLanguage;
+  if (!storage::IsListed(State.language, State.language.Languages[0])) {
+    F8.SelectFirstLanguage();
+    return Started::Yes;
   }
-  if (!storage::IsListed(State.language, State.language.Languages[0])) ChooseFirstLanguage();
-  std::ifstream texts(path, std::ios::binary);
-  const int count = storage::LoadTexts(texts, State.language);
-  if (count < core::kTexts) TellShortBlock(count);
+  ReadTexts();
   SetCaptions();
   DrawPlayerPanels();
   DrawDiceStats();
   return Started::Yes;
 }
 
-void MainWindow::ChooseFirstLanguage() {
-  auto& languages = State.language.Languages;
-  const std::string code = services_.SystemLanguage();
-  languages[0] = languages[1];
-  for (const LanguageName& language : kLanguageNames) {
-    if (code == language.Code && storage::IsListed(State.language, language.Name)) languages[0] = language.Name;
+/// False if the file holds no language: the user is told, and the languages known so far stay.
+bool MainWindow::ReadLanguageList() {
+  const auto path = services_.ProgramFolder() / kLanguageFile;
+  std::ifstream file(path, std::ios::binary);
+  core::Language found = State.language;
+  if (storage::ListLanguages(file, found) == 0) {
+    services_.MessageBox("Die Sprachdatei fehlt oder enthält keine Sprache:\n" + path.string() +
+                         "\n\nThe language file is missing or holds no language:\n" + path.string());
+    return false;
   }
+  State.language = found;
+  F8.ListLanguages();
+  return true;
 }
 
-void MainWindow::TellShortBlock(int count) {
+void MainWindow::ReadTexts() {
+  std::ifstream file(services_.ProgramFolder() / kLanguageFile, std::ios::binary);
+  const int count = storage::LoadTexts(file, State.language);
+  if (count < core::kTexts) TellOfBlock(count);
+}
+
+void MainWindow::TellOfBlock(int count) {
   const std::string& name = State.language.Languages[0];
-  const std::string figures = std::to_string(count) + " / " + std::to_string(core::kTexts);
+  const std::string figures = std::to_string(std::max(count, 0)) + " / " + std::to_string(core::kTexts);
   services_.MessageBox("Die Sprache \"" + name + "\" ist in " + kLanguageFile + " unvollständig: " + figures +
                        " Texte.\n\nThe language \"" + name + "\" is incomplete in " + kLanguageFile + ": " + figures +
                        " texts.");

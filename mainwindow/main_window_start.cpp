@@ -11,8 +11,10 @@ Started MainWindow::Load() {
   SetWorkingFolder();
   F1.MoveTo(0, 0);
   core::SetDefaults(State);
+  F8.ShowStartValues();
   LoadSettings();
   F7.ShowHotkeys();
+  F8.ShowHotkeys();
   core::BeginWithoutGame(State);
   ShowEventDie();
   const Started started = LoadLanguage();
@@ -31,11 +33,6 @@ Started MainWindow::Load() {
 void MainWindow::SetWorkingFolder() {
   std::error_code ignored;  // where it cannot be entered, the files beside the program cannot be read either
   std::filesystem::current_path(services_.ProgramFolder(), ignored);
-}
-
-void MainWindow::LoadSettings() {
-  core::SetSettingsDefaults(State);
-  LoadThemeImages(State.settings.HG);
 }
 
 void MainWindow::CentreDialogs() {

@@ -50,6 +50,8 @@ class TextBox : public Control {
   bool ReadOnly = false;
   bool MultiLine = false;
   std::function<void()> Change;
+  /// Makes of a text that the user has typed what the field takes; none: all.
+  std::function<std::string(const std::string&)> Filter;
 
   bool TakesFocus() const override { return true; }
   void PropertyChanged(Aspect aspect) override;

@@ -115,7 +115,11 @@ void Form::ClickTool(ToolBar& bar, int index) {
 
 void Form::Type(Control& control, const std::string& text) {
   if (!Takes(control)) return;
-  if (auto* box = dynamic_cast<TextBox*>(&control); box && !box->ReadOnly) box->Text = text;
+  if (auto* box = dynamic_cast<TextBox*>(&control); box && !box->ReadOnly) {
+    box->Text = box->Filter ? box->Filter(text) : text;
+    // What the filter took away is still in the widget.
+    if (View && box->Text.Get() != text) View->ControlChanged(control, Aspect::Text);
+  }
   if (auto* combo = dynamic_cast<ComboBox*>(&control)) combo->Text = text;
 }
 

@@ -5,9 +5,12 @@
 #include <filesystem>
 #include <string>
 
+#include "file_dialog.h"
 #include "picture.h"
 
 namespace platform {
+
+class Form;
 
 enum class Buttons { Ok, YesNo };  ///< of YesNo, No is the default button
 enum class Icon { None, Critical };
@@ -22,6 +25,12 @@ class Services {
   virtual Answer MessageBox(const std::string& text, const std::string& title = {}, Buttons buttons = Buttons::Ok,
                             Icon icon = Icon::None) = 0;
 
+  /// Lets events come until the form is hidden; for the one form that is modal.
+  virtual void WaitWhileVisible(Form& form) = 0;
+
+  /// Lets the user choose a file; false if none was chosen. `dialog.FileName` is the chosen one.
+  virtual bool ChooseFile(FileDialog& dialog) = 0;
+
   /// Whether the picture is there and can be decoded.
   virtual bool CanShow(const Picture& picture) = 0;
 
@@ -34,11 +43,11 @@ class Services {
   /// Today's date in the system's short form.
   virtual std::string Today() = 0;
 
+  /// The folder for the user's own settings of all programs.
+  virtual std::filesystem::path ConfigurationFolder() = 0;
+
   /// The system's decimal separator, "." or "," as a rule.
   virtual std::string DecimalSeparator() = 0;
-
-  /// The system's language by its two-letter code, "de" or "en".
-  virtual std::string SystemLanguage() = 0;
 
   /// Ends the process in an orderly way once the current event is done. Status 0: all is well.
   virtual void Quit(int status) = 0;

@@ -2,10 +2,12 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "../platform/form.h"
 #include "../platform/services.h"
 
 namespace tests {
@@ -20,13 +22,16 @@ class ScriptedServices : public platform::Services {
     bool operator==(const Box&) const = default;
   };
 
-  std::vector<Box> Boxes;                 ///< the message boxes shown so far
-  std::deque<platform::Answer> Answers;   ///< to the next boxes; then Ok and No
-  std::deque<double> RandomNumbers;       ///< the next ones; then 0
+  std::vector<Box> Boxes;                             ///< the message boxes shown so far
+  std::deque<platform::Answer> Answers;               ///< to the next boxes; then Ok and No
+  std::deque<double> RandomNumbers;                   ///< the next ones; then 0
+  std::function<void(platform::Form&)> WhileVisible;  ///< what the user does while a form is modal
+  std::vector<platform::FileDialog> FileDialogs;      ///< as they were shown
+  std::string FirstLanguage = "Deutsch";
+  std::string ChosenFile;                 ///< empty: the file dialog is cancelled
   std::set<std::string> MissingPictures;  ///< by name
   std::filesystem::path Folder = ORVANBEG_RUN_FOLDER;
   std::string Separator = ",";
-  std::string LanguageCode = "de";
   int QuitStatus = -1;  ///< -1: not asked to quit
 
   platform::Answer MessageBox(const std::string& text, const std::string& title, platform::Buttons buttons,
@@ -34,17 +39,43 @@ class ScriptedServices : public platform::Services {
     Boxes.push_back({text, title, buttons, icon});
     return Next(Answers, buttons == platform::Buttons::Ok ? platform::Answer::Ok : platform::Answer::No);
   }
+  void WaitWhileVisible(platform::Form& form) override {
+    if (WhileVisible) return WhileVisible(form);
+    // The first run: the user picks a language.
+    for (platform::Control* control : AllControls(form)) {
+      if (control->Name == "comSelectLang") form.Type(*control, FirstLanguage);
+    }
+    form.KeyPress(platform::kKeyEnter, {});
+    form.KeyRelease(platform::kKeyEnter, {});
+  }
+  bool ChooseFile(platform::FileDialog& dialog) override {
+    FileDialogs.push_back(dialog);
+    if (ChosenFile.empty()) return false;
+    dialog.FileName = ChosenFile;
+    return true;
+  }
   bool CanShow(const platform::Picture& picture) override {
     return !MissingPictures.contains(picture.Name) && (picture.IsResource || exists(Folder / picture.Name));
   }
   double Random() override { return Next(RandomNumbers, 0.0); }
   std::filesystem::path ProgramFolder() override { return Folder; }
+  std::filesystem::path ConfigurationFolder() override { return Folder / "config"; }
   std::string Today() override { return "22.11.2026"; }
   std::string DecimalSeparator() override { return Separator; }
-  std::string SystemLanguage() override { return LanguageCode; }
   void Quit(int status) override { QuitStatus = status; }
 
  private:
+  static std::vector<platform::Control*> AllControls(platform::Container& container) {
+    std::vector<platform::Control*> found;
+    for (platform::Control* control : container.Controls()) {
+      found.push_back(control);
+      auto* inner = dynamic_cast<platform::Container*>(control);
+      const auto deeper = inner ? AllControls(*inner) : std::vector<platform::Control*>();
+      found.insert(found.end(), deeper.begin(), deeper.end());
+    }
+    return found;
+  }
+
   template <typename T>
   static T Next(std::deque<T>& queue, T otherwise) {
     if (queue.empty()) return otherwise;

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QMenu>
+#include <QScreen>
 
 #include "convert.h"
 #include "fonts.h"
@@ -32,6 +33,8 @@ FormWindow::FormWindow(Form& form, QWidget* owner)
   client_->setGeometry(0, menuHeight, size.width(), size.height());
   setFixedSize(size.width(), size.height() + menuHeight);
   widgets_.Build(form_, client_);
+  // Said before the native window is made, else the window manager finds a place of its own.
+  if (!owner) move(ToPixels(form_.Position.Get().Left), ToPixels(form_.Position.Get().Top));
   form_.View = this;
   FormChanged(Aspect::Title);
 }
@@ -87,8 +90,11 @@ void FormWindow::FollowVisible(QPoint origin) {
   if (!form_.Visible) return hide();
   if (!placed_) {
     const Place place = form_.Position;
-    move(origin + QPoint(ToPixels(place.Left), ToPixels(place.Top)));
-    placed_ = true;
+    // Before there is a main window its first dialog stands in the middle of the screen.
+    const bool alone = parentWidget() && !parentWidget()->isVisible();
+    const QPoint middle = screen()->availableGeometry().center() - rect().center();
+    move(alone ? middle : origin + QPoint(ToPixels(place.Left), ToPixels(place.Top)));
+    placed_ = !alone;
   }
   show();
   raise();

@@ -2,14 +2,31 @@
 
 #include <QApplication>
 #include <QDate>
+#include <QFileDialog>
 #include <QLocale>
 #include <QMessageBox>
+#include <QStandardPaths>
 #include <chrono>
 
+#include "../form.h"
 #include "convert.h"
 #include "pictures.h"
 
 namespace platform::qt {
+namespace {
+
+/// From "name|pattern|name|pattern" to the toolkit's filters. "*.*" means all files here, also those without a dot.
+QStringList NameFilters(const std::string& filter) {
+  const QStringList parts = ToQt(filter).split('|');
+  QStringList filters;
+  for (int i = 0; i + 1 < parts.size(); i += 2) {
+    const QString name = parts[i].section(" (", 0, 0);
+    filters += name + " (" + (parts[i + 1] == "*.*" ? "*" : parts[i + 1]) + ")";
+  }
+  return filters;
+}
+
+}  // namespace
 
 QtServices::QtServices()
     : generator_(static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count())) {}
@@ -31,6 +48,22 @@ Answer QtServices::MessageBox(const std::string& text, const std::string& title,
   return Answer::Ok;
 }
 
+void QtServices::WaitWhileVisible(Form& form) {
+  while (form.Visible) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+bool QtServices::ChooseFile(FileDialog& dialog) {
+  QFileDialog chooser(QApplication::activeWindow(), ToQt(dialog.DialogTitle), ToQt(dialog.InitDir));
+  const bool open = (dialog.Flags & FileDialog::kFileMustExist) != 0;
+  chooser.setAcceptMode(open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+  chooser.setFileMode(open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+  chooser.setNameFilters(NameFilters(dialog.Filter));
+  if (!dialog.FileName.empty()) chooser.selectFile(ToQt(dialog.FileName));
+  if (chooser.exec() != QDialog::Accepted) return false;
+  dialog.FileName = chooser.selectedFiles().value(0).toStdString();
+  return true;
+}
+
 bool QtServices::CanShow(const Picture& picture) { return !SizeOf(picture).isEmpty(); }
 
 double QtServices::Random() {
@@ -41,13 +74,15 @@ double QtServices::Random() {
 
 std::filesystem::path QtServices::ProgramFolder() { return QApplication::applicationDirPath().toStdString(); }
 
+std::filesystem::path QtServices::ConfigurationFolder() {
+  return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation).toStdString();
+}
+
 std::string QtServices::Today() {
   return QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat).toStdString();
 }
 
 std::string QtServices::DecimalSeparator() { return QLocale::system().decimalPoint().toStdString(); }
-
-std::string QtServices::SystemLanguage() { return QLocale::system().name().left(2).toStdString(); }
 
 void QtServices::Quit(int status) { QApplication::exit(status); }
 

@@ -12,12 +12,14 @@ class QtServices : public Services {
   QtServices();
 
   Answer MessageBox(const std::string& text, const std::string& title, Buttons buttons, Icon icon) override;
+  void WaitWhileVisible(Form& form) override;
+  bool ChooseFile(FileDialog& dialog) override;
   bool CanShow(const Picture& picture) override;
   double Random() override;
   std::filesystem::path ProgramFolder() override;
+  std::filesystem::path ConfigurationFolder() override;
   std::string Today() override;
   std::string DecimalSeparator() override;
-  std::string SystemLanguage() override;
   void Quit(int status) override;
 
  private:

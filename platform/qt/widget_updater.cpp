@@ -42,7 +42,9 @@ void WidgetUpdater::Common(Control& control) {
 }
 
 void WidgetUpdater::Visit(Label& label) {
-  if (aspect_ == Aspect::Caption) static_cast<QLabel&>(widget_).setText(ToQt(label.Caption.Get()));
+  if (aspect_ == Aspect::Caption) {
+    static_cast<QLabel&>(widget_).setText(ToQt(label.Caption.Get()).remove('\r'));
+  }
   Common(label);
 }
 

@@ -67,6 +67,7 @@ TEST_F(StartTest, DialogsLieOverTheMiddleOfTheMainWindow) {
 
 TEST_F(StartTest, ShortLanguageBlockIsToldByNameAndCount) {
   WriteLanguage("Ours", 117);
+  services.FirstLanguage = "Ours";
   ASSERT_EQ(window.Load(), Started::Yes);
   ASSERT_EQ(services.Boxes.size(), 1U);
   EXPECT_THAT(services.Boxes[0].Text, testing::AllOf(HasSubstr("\"Ours\""), HasSubstr("117 / 118")));
@@ -89,24 +90,30 @@ TEST_F(StartTest, WithoutLanguageTheUserIsToldInTwoLanguages) {
   }
 }
 
-TEST_F(StartTest, FirstLanguageIsTheSystemsElseTheFirstOfTheFile) {
+TEST_F(StartTest, FirstRunTakesOnlyALanguageOfTheFile) {
   for (const char* name : {"Deutsch", "English"}) WriteLanguage(name);
-  const std::pair<const char*, std::string> cases[] = {{"de", "Deutsch"}, {"en", "English"}, {"xx", "Deutsch"}};
-  for (const auto& [code, name] : cases) {
-    SCOPED_TRACE(code);
-    services.LanguageCode = code;
-    MainWindow fresh(services);
-    ASSERT_EQ(fresh.Load(), Started::Yes);
-    auto& menu = *fresh.F1.MenuBar;
-    EXPECT_EQ(menu["mnuExtraDelLastW"].Caption.Get(), name + " 11");
-    EXPECT_EQ(menu["mnuExtraClock"].Caption.Get(), name + " 112");
-    EXPECT_EQ(menu["mnuExtraLeer"].Caption.Get(), "-");
-    EXPECT_EQ(fresh.F1.tbrMenu.ToolTip(9), name + " 11");
-    EXPECT_EQ(fresh.F1.tbrMenu.ToolTip(12), name + " 14");
-    EXPECT_EQ(fresh.F1.tbrMenu.ToolTip(6), "");
-    EXPECT_EQ(fresh.F1.picSP(5).ToolTipText.Get(), name + " 32");
-    EXPECT_EQ(fresh.F7.Caption.Get(), name + " 76");
-  }
+  services.WhileVisible = [&](platform::Form& form) {
+    EXPECT_FALSE(window.F8.fraDisplay.Visible);
+    EXPECT_EQ(window.F8.fraSelectLang.Position.Get().Top, 2250);
+    EXPECT_FALSE(window.F1.AcceptsInput());
+    Key(form, platform::kKeyEnter);  // the prompt is no language
+    EXPECT_THAT(services.Boxes.back().Text, HasSubstr("Please select language"));
+    EXPECT_TRUE(form.Visible);
+    form.Pick(window.F8.comSelectLang, 1);
+    Key(form, platform::kKeyEnter);
+  };
+  ASSERT_EQ(window.Load(), Started::Yes);
+  auto& menu = *window.F1.MenuBar;
+  EXPECT_EQ(menu["mnuExtraDelLastW"].Caption.Get(), "English 11");
+  EXPECT_EQ(menu["mnuExtraClock"].Caption.Get(), "English 112");
+  EXPECT_EQ(menu["mnuExtraLeer"].Caption.Get(), "-");
+  EXPECT_EQ(window.F1.tbrMenu.ToolTip(9), "English 11");
+  EXPECT_EQ(window.F1.tbrMenu.ToolTip(6), "");
+  EXPECT_EQ(window.F1.picSP(5).ToolTipText.Get(), "English 32");
+  EXPECT_EQ(window.F7.Caption.Get(), "English 76");
+  EXPECT_EQ(window.F8.fraSelectLang.Position.Get().Top, 5040);
+  EXPECT_FALSE(window.F8.Visible);
+  EXPECT_TRUE(window.F1.AcceptsInput());
 }
 
 }  // namespace

@@ -1,0 +1,266 @@
+// A random evening: keys, clicks, texts, ticks and answers come by chance, and after each of them what must always hold
+// is looked at. Each seed is an evening of its own; a failure names seed and event, with the events before it.
+// To play one seed again, or longer:
+//   ORVANBEG_EVENING_SEED=3 ORVANBEG_EVENING_EVENTS=5000000 random_evening_tests
+#include <gmock/gmock.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <iostream>
+#include <numeric>
+#include <random>
+
+#include "../../core/points.h"
+#include "../../mainwindow/main_window.h"
+#include "../scripted_services.h"
+
+namespace tests {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace platform;
+
+constexpr unsigned kEvenings = 5;
+#ifdef NDEBUG
+constexpr unsigned kEvents = 1'000'000 / kEvenings;
+#else  // the debug build carries the sanitizers
+constexpr unsigned kEvents = 60'000 / kEvenings;
+#endif
+constexpr std::size_t kLongestDrawing = 400;  // steps; the longest is the standing of six players of one name
+constexpr unsigned kHabitLasts = 1500;        // events
+constexpr unsigned kEnoughForAll = 200'000;   // events in which every dialog has been open
+
+unsigned FromEnvironment(const char* name, unsigned otherwise) {
+  const char* value = std::getenv(name);
+  return value ? static_cast<unsigned>(std::strtoul(value, nullptr, 10)) : otherwise;
+}
+
+/// Answers by chance; the clock ticks while a box is open; now and then a picture is missing.
+class ChanceServices : public ScriptedServices {
+ public:
+  explicit ChanceServices(unsigned seed) : random_(seed) {}
+  std::function<void()> WhileABoxIsOpen;
+
+  int Below(int end) { return static_cast<int>(random_() % static_cast<unsigned>(end)); }
+  bool Percent(int share) { return Below(100) < share; }
+  template <typename Choices>
+  auto& Of(Choices& choices) {
+    return choices[static_cast<std::size_t>(Below(static_cast<int>(std::size(choices))))];
+  }
+
+  Answer MessageBox(const std::string&, const std::string&, Buttons buttons, Icon) override {
+    if (WhileABoxIsOpen) WhileABoxIsOpen();
+    if (buttons == Buttons::Ok) return Answer::Ok;
+    return Percent(50) ? Answer::Yes : Answer::No;
+  }
+  bool CanShow(const Picture&) override { return !Percent(1); }
+  double Random() override { return Below(1000) / 1000.0; }
+
+ private:
+  std::mt19937 random_;
+};
+
+class RandomEvening : public testing::TestWithParam<unsigned> {
+ protected:
+  RandomEvening() {
+    fs::create_directories(folder);
+    fs::copy_file(fs::path(ORVANBEG_RUN_FOLDER) / "language.ini", folder / "language.ini",
+                  fs::copy_options::overwrite_existing);
+    chance.Folder = folder;
+    chance.WhileABoxIsOpen = [this] { window.F1.timSpielzeit.Elapsed(); };
+  }
+  ~RandomEvening() override {
+    fs::current_path(folder.parent_path());
+    fs::remove_all(folder);
+  }
+
+  void BeginExpansion() {
+    window.F20.OpenNewGame();
+    Clicked(window.F20.optB, MouseButton::Left);
+    Clicked(window.F20.cmdStart, MouseButton::Left);
+  }
+
+  // What the user does; each tells in a few words what it was.
+  std::string AnyEvent() {
+    const int kind = chance.Below(100);
+    if (kind < 40) return AnyKey();
+    if (kind < 80) return AnyClick();
+    if (kind < 84) return AnyText();
+    if (kind < 88) return AnyCommand();
+    if (kind < 90) return AnyCloseBox();
+    if (window.F8.Visible && chance.Percent(50)) return MendedSettings();
+    window.F1.timSpielzeit.Elapsed();
+    return "tick";
+  }
+  /// The same over and over, so that long games come about, too; what opens meanwhile is mostly closed by Enter.
+  std::string Habitual(int habit) {
+    const auto keyOf = [this](std::vector<KeyCode> keys) { return Keyed(window.F1, chance.Of(keys), {}); };
+    switch (habit) {
+      case 0: return chance.Percent(50) ? keyOf({kKeyEnter}) : Clicked(window.F1.picWurfel(0), MouseButton::Right);
+      case 1: return keyOf({FunctionKey(9), kKeyEnter, kKeyEscape});
+      case 2: return keyOf({'1', '2', '3', '4', '5', '6', 'P', 'H', 'W', 'B', 'B', kKeyEnter});
+      case 3: return keyOf({FunctionKey(1), FunctionKey(2), FunctionKey(3), '1', '2', '0', '7', kKeyEnter});
+      default: return AnyEvent();
+    }
+  }
+  Form& AnyForm() {
+    Form& form = *chance.Of(window.Desktop.Forms());
+    return form.AcceptsInput() || chance.Percent(10) ? form : AnyForm();
+  }
+  Control& AnyControl() {
+    std::vector<Control*> controls = AnyForm().Controls();
+    for (std::size_t i = 0; i < controls.size(); ++i) {
+      const auto* inner = dynamic_cast<Container*>(controls[i]);
+      if (inner) controls.insert(controls.end(), inner->Controls().begin(), inner->Controls().end());
+    }
+    return *chance.Of(controls);
+  }
+  std::string AnyKey() {
+    Form& form = AnyForm();
+    const KeyCode code = chance.Below(kKeyF1 + 13);  // to the key behind F12; among them codes of no key
+    Modifiers with;
+    if (chance.Percent(25)) with = {chance.Percent(40), chance.Percent(40), chance.Percent(40)};
+    if (chance.Percent(80)) return Keyed(form, code, with);
+    chance.Percent(50) ? form.KeyPress(code, with) : form.KeyRelease(code, with);  // the other half comes elsewhere
+    return form.Name + " half a key " + std::to_string(code);
+  }
+  std::string Keyed(Form& form, KeyCode code, Modifiers with) {
+    Form* const receiver = window.Desktop.KeyReceiver(form);
+    if (!receiver) return form.Name + " locked";
+    receiver->KeyPress(code, with);
+    receiver->KeyRelease(code, with);
+    return receiver->Name + " key " + std::to_string(code) + (with.Any() ? " with modifiers" : "");
+  }
+  std::string AnyClick() {
+    static constexpr MouseButton kButtons[] = {MouseButton::Left, MouseButton::Right, MouseButton::Middle};
+    return Clicked(AnyControl(), chance.Percent(50) ? MouseButton::Left : chance.Of(kButtons));
+  }
+  std::string Clicked(Control& control, MouseButton button) {
+    Form& form = *control.Owner();
+    if (button == MouseButton::Left) form.Click(control);
+    form.MouseUp(control, button);
+    if (auto* bar = dynamic_cast<ToolBar*>(&control)) form.ClickTool(*bar, chance.Below(16) - 1);
+    if (auto* combo = dynamic_cast<ComboBox*>(&control)) form.Pick(*combo, chance.Below(5) - 1);
+    return form.Name + " click " + control.Name + " " + std::to_string(static_cast<int>(button));
+  }
+  /// The settings have no cancel: without this they would stay open for most of the evening.
+  std::string MendedSettings() {
+    for (int i = 0; i < core::kEventFaces; ++i) window.F8.Type(window.F8.txtEWHotkey(i), "b");
+    window.F8.Pick(window.F8.comSelectLang, 0);
+    window.F8.Click(window.F8.cmdOK);
+    return "settings closed";
+  }
+  std::string AnyText() {
+    static const std::string kTexts[] = {"", "0", "Zoë", "-1", "99", "40000", "99999999999", std::string(300, 'x')};
+    Control& control = AnyControl();
+    control.Owner()->Type(control, chance.Of(kTexts));
+    return "text into " + control.Name;
+  }
+  std::string AnyCommand() {
+    MenuItem& item = chance.Of(window.F1.MenuBar->Items());
+    window.F1.ClickMenu(item);
+    return item.Name;
+  }
+  std::string AnyCloseBox() {
+    Form& form = AnyForm();
+    form.PressCloseBox();
+    return form.Name + " close box";
+  }
+
+  // What must always hold; the answer is what does not, or nothing.
+  std::string Offence() {
+    for (const auto& offence : {LockOffence(), GameOffence(), LogOffence(), DrawingOffence()}) {
+      if (!offence.empty()) return offence;
+    }
+    return {};
+  }
+  std::string LockOffence() {
+    int open = 0, locking = 0;
+    for (const Form* form : window.Desktop.Forms()) {
+      if (form == &window.F1 || !form->Visible) continue;
+      seen.insert(form->Name);
+      ++open;
+      locking += form->Name != "F11" && form->Name != "F2";  // these leave the main window as it is
+    }
+    if (!window.F1.Visible) return "the main window is gone";
+    if (!window.F1.Enabled && open == 0) return "the main window is locked without a dialog";
+    if (locking > 1) return "two dialogs are open";
+    return locking > 0 && window.F1.Enabled ? "the main window is free behind a dialog" : "";
+  }
+  std::string GameOffence() {
+    const auto outside = [](int value, int lowest, int highest) { return value < lowest || value > highest; };
+    if (outside(window.State.entry.DiceEntryStage, 0, window.F7.Visible ? 2 : 0)) return "DiceEntryStage";
+    if (outside(game.NumPlayers, 2, 6) || outside(game.GameType, 2, 3)) return "kind of game or number of players";
+    if (outside(game.CurrentPlayer, 0, 6) || outside(game.DataPlayer, 0, 6)) return "seat of a dialog";
+    if (outside(window.State.settings.HG, 1, 3)) return "theme";
+    core::Game anew = game;
+    core::ComputePoints(anew);
+    core::ClampPoints(anew);
+    if (anew.PlayerPoints != game.PlayerPoints) return "the points are not those of the holdings";
+    if (game.GameType == core::kFirstExpansion) seen.insert("expansion");
+    return {};
+  }
+  /// No file was loaded, so the log tells all that the counts say.
+  std::string LogOffence() {
+    const int total = std::accumulate(game.DiceCount.begin(), game.DiceCount.end(), 0);
+    if (total > core::kLoggedRolls || total != game.TotalRolls) return "TotalRolls " + std::to_string(total);
+    std::array<std::int16_t, core::kHighestSum + 1> sums{};
+    std::array<std::int16_t, core::kEventFaces + 1> faces{};
+    for (std::size_t entry = 1; entry <= static_cast<std::size_t>(total); ++entry) {
+      const core::TRoll& roll = game.DiceLog[entry];
+      if (std::min(roll.Die1, roll.Die2) < 1) return "entry " + std::to_string(entry) + " of the log is no roll";
+      ++sums.at(static_cast<std::size_t>(roll.Die1 + roll.Die2));
+      ++faces.at(static_cast<std::size_t>(roll.EventDie));
+    }
+    faces[0] = game.EventCount[0];  // which nothing resets
+    if (total == core::kLoggedRolls) seen.insert("full log");
+    return sums == game.DiceCount && faces == game.EventCount ? "" : "log and counts have parted";
+  }
+  std::string DrawingOffence() {
+    for (const Form* form : window.Desktop.Forms()) {
+      if (form->Drawing.Steps().size() > kLongestDrawing) return "drawing of " + form->Name;
+      for (const Control* control : form->Controls()) {
+        const auto* box = dynamic_cast<const PictureBox*>(control);
+        if (box && box->Drawing.Steps().size() > kLongestDrawing) return "drawing of " + box->Name;
+      }
+    }
+    return {};
+  }
+
+  const fs::path folder = fs::temp_directory_path() / ("orvanbeg-evening-" + std::to_string(getpid()));
+  ChanceServices chance{GetParam()};
+  mainwindow::MainWindow window{chance};
+  core::Game& game = window.State.game;
+  std::set<std::string> seen;
+};
+
+TEST_P(RandomEvening, KeepsWhatMustAlwaysHold) {
+  const unsigned events = FromEnvironment("ORVANBEG_EVENING_EVENTS", kEvents);
+  std::cout << "seed " << GetParam() << ", " << events << " events" << std::endl;
+  ASSERT_EQ(window.Load(), mainwindow::Started::Yes);
+  if (GetParam() % 2 == 1) BeginExpansion();
+  std::deque<std::string> last;
+  int habit = 0;
+  for (unsigned event = 1; event <= events; ++event) {
+    if (event % kHabitLasts == 0) habit = chance.Below(7);
+    last.push_back(chance.Percent(50) ? Habitual(habit) : AnyEvent());
+    if (last.size() > 12) last.pop_front();
+    const std::string offence = Offence();
+    ASSERT_EQ(offence, "") << "seed " << GetParam() << ", event " << event << " of " << testing::PrintToString(last);
+  }
+  if (events < kEnoughForAll) return;
+  EXPECT_THAT(seen, testing::IsSupersetOf({"F4", "F7", "F9", "F11", "F20", "expansion", "full log"}))
+      << "the evening missed something of the game";
+}
+
+std::vector<unsigned> Seeds() {
+  if (const unsigned seed = FromEnvironment("ORVANBEG_EVENING_SEED", 0)) return {seed};
+  std::vector<unsigned> seeds(kEvenings);
+  std::iota(seeds.begin(), seeds.end(), 1U);
+  return seeds;
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomEvening, testing::ValuesIn(Seeds()), testing::PrintToStringParamName());
+
+}  // namespace
+}  // namespace tests
