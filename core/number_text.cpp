@@ -25,6 +25,10 @@ std::string WithOneDecimal(float value, const std::string& decimalSeparator) {
   return WithSeparator(std::string(text, end), decimalSeparator);
 }
 
+std::string PercentText(float percent, const std::string& decimalSeparator) {
+  return (percent == 0 ? "0" : WithOneDecimal(percent, decimalSeparator)) + "%";
+}
+
 std::string PlainText(float value, const std::string& decimalSeparator) {
   char text[64];
   const auto end = std::to_chars(text, text + sizeof text, value).ptr;

@@ -11,6 +11,9 @@ namespace core {
 /// A percentage with exactly one decimal, a tie rounded away from zero, with the system's decimal separator: "16,7".
 std::string WithOneDecimal(float value, const std::string& decimalSeparator);
 
+/// A measured share for chart and report: "0%", else with exactly one decimal.
+std::string PercentText(float percent, const std::string& decimalSeparator);
+
 /// The shortest text that names the number, with the system's decimal separator: "2,8", "3".
 std::string PlainText(float value, const std::string& decimalSeparator);
 

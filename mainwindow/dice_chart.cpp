@@ -63,17 +63,13 @@ void DrawHeads(const State& state, Surface& picW) {
   picW.PrintAt(kTheoryX, kHeadY, state.Text(20));
 }
 
-std::string PercentText(float percent, const std::string& separator) {
-  return (percent == 0 ? "0" : core::WithOneDecimal(percent, separator)) + "%";
-}
-
 void DrawFigures(const core::Game& game, int sum, int y, const std::string& separator, Surface& picW) {
   const auto index = static_cast<std::size_t>(sum);
   picW.FontBold = true;
   picW.PrintAt(kSumX, y, std::to_string(sum));
   picW.FontBold = false;
   picW.PrintAt(kCountX, y, std::to_string(game.DiceCount[index]) + " x");
-  picW.PrintAt(kMeasuredX, y, PercentText(game.DicePercent[index], separator));
+  picW.PrintAt(kMeasuredX, y, core::PercentText(game.DicePercent[index], separator));
   picW.PrintAt(kTheoryX, y, core::PlainText(core::DiceProbability[index], separator) + "%");
 }
 

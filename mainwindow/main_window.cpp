@@ -17,16 +17,23 @@ using windows::imlW;
 
 MainWindow::MainWindow(platform::Services& services)
     : F1(Desktop, MakeMenu()),
-      F4({State, *this, services, Desktop, F1}),
-      F7({State, *this, services, Desktop, F1}),
-      F8({State, *this, services, Desktop, F1}),
-      F9({State, *this, services, Desktop, F1}),
-      F11({State, *this, services, Desktop, F1}),
-      F20({State, *this, services, Desktop, F1}),
+      context_{State, *this, services, Desktop, F1},
+      F2(context_),
+      F3(context_),
+      F4(context_),
+      F5(context_),
+      F6(context_),
+      F7(context_),
+      F8(context_),
+      F9(context_),
+      F10(context_),
+      F11(context_),
+      F20(context_),
       services_(services) {
   WireInput();
   F1.timSpielzeit.Tick = [this] { F1_timSpielzeit_Timer(); };
   F20.OnStart = [this] { FollowNewGame(); };
+  F3.ShowReadme = [this] { F2.ShowFile("readme.txt"); };
   F8.LoadThemeImages = [this](int theme) { LoadThemeImages(theme); };
   F8.LoadLanguage = [this] { LoadLanguage(); };
   F8.HotkeysChanged = [this] { F7.ShowHotkeys(); };
@@ -95,7 +102,7 @@ void MainWindow::F1_timSpielzeit_Timer() {
   DrawClockStrip(State, F1);
 }
 
-std::vector<windows::Dialog*> MainWindow::Dialogs() { return {&F4, &F7, &F8, &F9, &F11, &F20}; }
+std::vector<windows::Dialog*> MainWindow::Dialogs() { return {&F3, &F4, &F5, &F6, &F7, &F8, &F9, &F10, &F11, &F20}; }
 
 bool MainWindow::LoadThemeImages(int theme) {
   return mainwindow::LoadThemeImages(theme, State.settings, services_, F1);

@@ -7,12 +7,17 @@
 #include "../core/screen.h"
 #include "../dialogs/f11_attack.h"
 #include "../dialogs/f20_new_game.h"
+#include "../dialogs/f2_text_viewer.h"
+#include "../dialogs/f3_about.h"
 #include "../dialogs/f4_player_action.h"
+#include "../dialogs/f5_player_data.h"
+#include "../dialogs/f6_game_info.h"
 #include "../dialogs/f7_dice_entry.h"
 #include "../dialogs/f8_settings.h"
 #include "../dialogs/f9_standing.h"
 #include "../platform/desktop.h"
 #include "../platform/services.h"
+#include "../printing/f10_print.h"
 #include "../storage/game_file_reader.h"
 #include "commands.h"
 #include "f1.h"
@@ -33,10 +38,20 @@ class MainWindow : public core::Screen, private storage::GameFileEvents {
   core::State State;
   platform::Desktop Desktop;
   mainwindow::F1 F1;
+
+ private:
+  windows::Context context_;
+
+ public:
+  dialogs::F2 F2;
+  dialogs::F3 F3;
   dialogs::F4 F4;
+  dialogs::F5 F5;
+  dialogs::F6 F6;
   dialogs::F7 F7;
   dialogs::F8 F8;
   dialogs::F9 F9;
+  printing::F10 F10;
   dialogs::F11 F11;
   dialogs::F20 F20;
 

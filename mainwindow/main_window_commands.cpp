@@ -9,8 +9,8 @@ namespace mainwindow {
 void MainWindow::F1_mnuGameNew_Click() { F20.OpenNewGame(); }
 void MainWindow::F1_mnuFileLoad_Click() { LoadGame(); }
 void MainWindow::F1_mnuFileSaveAs_Click() { SaveGame(); }
-void MainWindow::F1_mnuGameInfo_Click() {}
-void MainWindow::F1_mnuFilePrint_Click() {}
+void MainWindow::F1_mnuGameInfo_Click() { F6.PrepareGameInfo(); }
+void MainWindow::F1_mnuFilePrint_Click() { F10.OpenPrint(); }
 void MainWindow::F1_mnuFileQuit_Click() { SaveSettings(); }
 
 void MainWindow::F1_mnuExtraZS_Click() {
@@ -36,8 +36,8 @@ void MainWindow::F1_mnuExtraClock_Click() {
 
 void MainWindow::F1_mnuExtraSettings_Click() { F8.OpenSettings(); }
 void MainWindow::F1_mnuExtraAutoDice_Click() { AutoRoll(core::EventDieOf::Menu); }
-void MainWindow::F1_mnuHelpKeys_Click() {}
-void MainWindow::F1_mnuHelpInfo_Click() {}
+void MainWindow::F1_mnuHelpKeys_Click() { F2.ShowFile("tastatur.txt"); }
+void MainWindow::F1_mnuHelpInfo_Click() { F3.OpenAbout(); }
 
 void MainWindow::AutoRoll(core::EventDieOf command) {
   core::AutoRoll(

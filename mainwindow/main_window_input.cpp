@@ -48,7 +48,10 @@ bool MainWindow::KeyOfSeat(int seat) {
   return true;
 }
 
-void MainWindow::PrepareDataDialog(int seat) { State.game.DataPlayer = static_cast<std::int16_t>(seat); }
+void MainWindow::PrepareDataDialog(int seat) {
+  State.game.DataPlayer = static_cast<std::int16_t>(seat);
+  F5.PrepareDataDialog();
+}
 
 void MainWindow::F1_picSP_MouseUp(int index, MouseButton button) {
   if (button == MouseButton::Right) {

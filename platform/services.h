@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "file_dialog.h"
 #include "picture.h"
@@ -11,6 +12,15 @@
 namespace platform {
 
 class Form;
+
+class Surface;
+
+/// The three numbers of the program's version.
+struct Version {
+  int Major = 0;
+  int Minor = 0;
+  int Revision = 0;
+};
 
 enum class Buttons { Ok, YesNo };  ///< of YesNo, No is the default button
 enum class Icon { None, Critical };
@@ -30,6 +40,18 @@ class Services {
 
   /// Lets the user choose a file; false if none was chosen. `dialog.FileName` is the chosen one.
   virtual bool ChooseFile(FileDialog& dialog) = 0;
+
+  /// The installed printers by name, the system's default first; none where there is none.
+  virtual std::vector<std::string> PrinterNames() = 0;
+
+  /// Prints a page, drawn in 1/300 inch from the top left of the sheet; false if the printer does not take it.
+  virtual bool Print(const std::string& printer, const Surface& page) = 0;
+
+  /// Writes the page as a PDF file; false if it cannot be written.
+  virtual bool PrintToFile(const std::filesystem::path& file, const Surface& page) = 0;
+
+  /// The version of the program.
+  virtual Version ProgramVersion() = 0;
 
   /// Whether the picture is there and can be decoded.
   virtual bool CanShow(const Picture& picture) = 0;

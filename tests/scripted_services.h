@@ -7,16 +7,16 @@
 #include <string>
 #include <vector>
 
-#include "../platform/form.h"
+#include "../dialogs/f8_settings.h"
 #include "../platform/services.h"
+#include "keyboard.h"
 
 namespace tests {
 
 class ScriptedServices : public platform::Services {
  public:
   struct Box {
-    std::string Text;
-    std::string Title;
+    std::string Text, Title;
     platform::Buttons Buttons;
     platform::Icon Icon;
     bool operator==(const Box&) const = default;
@@ -27,6 +27,10 @@ class ScriptedServices : public platform::Services {
   std::deque<double> RandomNumbers;                   ///< the next ones; then 0
   std::function<void(platform::Form&)> WhileVisible;  ///< what the user does while a form is modal
   std::vector<platform::FileDialog> FileDialogs;      ///< as they were shown
+  std::vector<std::string> Printers;
+  std::pair<std::string, platform::Surface> Printed;  ///< printer or file, and the page
+  bool PrinterFails = false;
+  platform::Version Version{1, 0, 0};
   std::string FirstLanguage = "Deutsch";
   std::string ChosenFile;                 ///< empty: the file dialog is cancelled
   std::set<std::string> MissingPictures;  ///< by name
@@ -41,12 +45,8 @@ class ScriptedServices : public platform::Services {
   }
   void WaitWhileVisible(platform::Form& form) override {
     if (WhileVisible) return WhileVisible(form);
-    // The first run: the user picks a language.
-    for (platform::Control* control : AllControls(form)) {
-      if (control->Name == "comSelectLang") form.Type(*control, FirstLanguage);
-    }
-    form.KeyPress(platform::kKeyEnter, {});
-    form.KeyRelease(platform::kKeyEnter, {});
+    form.Type(dynamic_cast<dialogs::F8&>(form).comSelectLang, FirstLanguage);  // the first run
+    Key(form, platform::kKeyEnter);
   }
   bool ChooseFile(platform::FileDialog& dialog) override {
     FileDialogs.push_back(dialog);
@@ -54,6 +54,15 @@ class ScriptedServices : public platform::Services {
     dialog.FileName = ChosenFile;
     return true;
   }
+  std::vector<std::string> PrinterNames() override { return Printers; }
+  bool Print(const std::string& printer, const platform::Surface& page) override {
+    Printed = {printer, page};
+    return !PrinterFails;
+  }
+  bool PrintToFile(const std::filesystem::path& file, const platform::Surface& page) override {
+    return Print(file.string(), page);
+  }
+  platform::Version ProgramVersion() override { return Version; }
   bool CanShow(const platform::Picture& picture) override {
     return !MissingPictures.contains(picture.Name) && (picture.IsResource || exists(Folder / picture.Name));
   }
@@ -65,17 +74,6 @@ class ScriptedServices : public platform::Services {
   void Quit(int status) override { QuitStatus = status; }
 
  private:
-  static std::vector<platform::Control*> AllControls(platform::Container& container) {
-    std::vector<platform::Control*> found;
-    for (platform::Control* control : container.Controls()) {
-      found.push_back(control);
-      auto* inner = dynamic_cast<platform::Container*>(control);
-      const auto deeper = inner ? AllControls(*inner) : std::vector<platform::Control*>();
-      found.insert(found.end(), deeper.begin(), deeper.end());
-    }
-    return found;
-  }
-
   template <typename T>
   static T Next(std::deque<T>& queue, T otherwise) {
     if (queue.empty()) return otherwise;

@@ -2,12 +2,16 @@
 
 namespace windows {
 
-void Dialog::Open() {
+void Dialog::BringUp() {
   if (Visible) {
     context_.desktop.BringToFront(*this);
   } else {
     Visible = true;
   }
+}
+
+void Dialog::Open() {
+  BringUp();
   locks_ = true;
   context_.F1.Enabled = false;
 }

@@ -32,12 +32,14 @@ class Dialog : public platform::Form {
   virtual void SetCaptions() = 0;
 
  protected:
-  /// Shows the dialog and locks the main window.
+  /// Shows the dialog, or brings it before the others if it is shown already.
+  void BringUp();
+  /// The same, and locks the main window.
   void Open();
   /// Unlocks the main window and hides the dialog.
   void Leave();
-  /// Only gives the lock back, for a dialog that has work to do before it hides. The main window stays locked as long as
-  /// another dialog that is open holds it.
+  /// Only gives the lock back, for a dialog that has work to do before it hides. The main window stays locked as long
+  /// as another dialog that is open holds it.
   void Unlock();
   /// Takes part in a lock that is there already, without making one.
   void ShareLock() { locks_ = !context_.F1.Enabled; }

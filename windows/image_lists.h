@@ -26,6 +26,7 @@ inline constexpr platform::ImageList imlGameType{"imlGameType", 5, 48};
 /// The program's own icon, and the arrow from a row of dice to the chosen one.
 inline const platform::Picture kProgramIcon{"orvanbeg.svg"};
 inline const platform::Picture kArrow{"arrow.svg"};
+inline const platform::Picture kLogo{"logo.svg"};
 inline const platform::Picture kWinner{"winner.svg"};
 inline const platform::Picture kMetropolis{"metropolis.svg"};
 

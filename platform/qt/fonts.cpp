@@ -21,10 +21,9 @@ QString FamilyFor(const std::string& name) {
 
 }  // namespace
 
-QFont ToQt(const Font& font) {
-  constexpr double kPixelsPerPoint = 96.0 / 72.0;
+QFont ToQt(const Font& font, double pixelsPerPoint) {
   QFont result(FamilyFor(font.Name));
-  result.setPixelSize(qMax(1, qRound(font.Size * kPixelsPerPoint)));
+  result.setPixelSize(qMax(1, qRound(font.Size * pixelsPerPoint)));
   result.setBold(font.Bold);
   return result;
 }

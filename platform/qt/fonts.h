@@ -7,8 +7,10 @@
 
 namespace platform::qt {
 
-/// The font of the screen: pixels = points * 96 / 72. DejaVu Sans and Liberation Sans stand in for faces that are
+inline constexpr double kScreenPixelsPerPoint = 96.0 / 72.0;
+
+/// The font in its size on the screen or another surface. DejaVu Sans and Liberation Sans stand in for faces that are
 /// missing.
-QFont ToQt(const Font& font);
+QFont ToQt(const Font& font, double pixelsPerPoint = kScreenPixelsPerPoint);
 
 }  // namespace platform::qt

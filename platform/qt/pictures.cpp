@@ -77,6 +77,17 @@ QPixmap PixmapOf(const Picture& picture, qreal devicePixelRatio) {
   return decoded.pixels;
 }
 
+void DrawScaled(QPainter& painter, const Picture& picture, QPointF at, double scale) {
+  if (picture.Empty()) return;
+  const Decoded& decoded = Find(picture);
+  const QRectF place(at, QSizeF(decoded.Size()) * scale);
+  if (decoded.drawing) {
+    decoded.drawing->render(&painter, place);
+  } else {
+    painter.drawImage(place, decoded.image);
+  }
+}
+
 void Draw(QPainter& painter, const Picture& picture, QPointF at) {
   painter.drawPixmap(at, PixmapOf(picture, painter.device()->devicePixelRatioF()));
 }

@@ -19,6 +19,9 @@ QPixmap PixmapOf(const Picture& picture, qreal devicePixelRatio);
 /// Draws the picture at its natural size with its top left corner at the point; nothing if it cannot be loaded.
 void Draw(QPainter& painter, const Picture& picture, QPointF at);
 
+/// The same in another size, sharp at any resolution: a drawing is drawn as such.
+void DrawScaled(QPainter& painter, const Picture& picture, QPointF at, double scale);
+
 /// Lets go of all decoded pictures; the application calls it before it ends.
 void ForgetPictures();
 

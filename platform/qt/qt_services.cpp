@@ -11,6 +11,7 @@
 #include "../form.h"
 #include "convert.h"
 #include "pictures.h"
+#include "printers.h"
 
 namespace platform::qt {
 namespace {
@@ -62,6 +63,16 @@ bool QtServices::ChooseFile(FileDialog& dialog) {
   if (chooser.exec() != QDialog::Accepted) return false;
   dialog.FileName = chooser.selectedFiles().value(0).toStdString();
   return true;
+}
+
+std::vector<std::string> QtServices::PrinterNames() { return InstalledPrinters(); }
+
+bool QtServices::Print(const std::string& printer, const Surface& page) { return PrintOn(printer, page); }
+
+bool QtServices::PrintToFile(const std::filesystem::path& file, const Surface& page) { return WritePdf(file, page); }
+
+Version QtServices::ProgramVersion() {
+  return {ORVANBEG_VERSION_MAJOR, ORVANBEG_VERSION_MINOR, ORVANBEG_VERSION_REVISION};
 }
 
 bool QtServices::CanShow(const Picture& picture) { return !SizeOf(picture).isEmpty(); }

@@ -14,6 +14,10 @@ class QtServices : public Services {
   Answer MessageBox(const std::string& text, const std::string& title, Buttons buttons, Icon icon) override;
   void WaitWhileVisible(Form& form) override;
   bool ChooseFile(FileDialog& dialog) override;
+  std::vector<std::string> PrinterNames() override;
+  bool Print(const std::string& printer, const Surface& page) override;
+  bool PrintToFile(const std::filesystem::path& file, const Surface& page) override;
+  Version ProgramVersion() override;
   bool CanShow(const Picture& picture) override;
   double Random() override;
   std::filesystem::path ProgramFolder() override;

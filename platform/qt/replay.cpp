@@ -13,10 +13,10 @@ namespace {
 
 class Player {
  public:
-  Player(QPainter& painter, double unitsPerPixel) : painter_(painter), units_(unitsPerPixel) {}
+  Player(QPainter& painter, const Measure& measure) : painter_(painter), measure_(measure) {}
 
   void operator()(const TextStep& step) {
-    painter_.setFont(ToQt(step.Face));
+    painter_.setFont(ToQt(step.Face, measure_.pixelsPerPoint));
     painter_.setPen(ToQt(step.Ink));
     const double ascent = painter_.fontMetrics().ascent();
     painter_.drawText(At(step.X, step.Y) + QPointF(0, ascent), ToQt(step.Text));
@@ -42,11 +42,17 @@ class Player {
     }
   }
 
-  void operator()(const PictureStep& step) { Draw(painter_, step.Image, At(step.X, step.Y)); }
+  void operator()(const PictureStep& step) {
+    if (measure_.pictureScale == 1) {
+      Draw(painter_, step.Image, At(step.X, step.Y));
+    } else {
+      DrawScaled(painter_, step.Image, At(step.X, step.Y), measure_.pictureScale);
+    }
+  }
 
  private:
   /// Counts from a file can put a step anywhere; what lies this far outside is never seen.
-  double Pixel(double unit) const { return std::clamp(unit / units_, -30000.0, 30000.0); }
+  double Pixel(double unit) const { return std::clamp(unit / measure_.unitsPerPixel, -30000.0, 30000.0); }
   QPointF At(double x, double y) const { return {Pixel(x), Pixel(y)}; }
 
   /// From one corner up to the other without it, at least one pixel each way.
@@ -57,13 +63,13 @@ class Player {
   }
 
   QPainter& painter_;
-  double units_;
+  const Measure& measure_;
 };
 
 }  // namespace
 
-void Replay(QPainter& painter, const Surface& surface, double unitsPerPixel) {
-  Player player(painter, unitsPerPixel);
+void Replay(QPainter& painter, const Surface& surface, const Measure& measure) {
+  Player player(painter, measure);
   for (const DrawingStep& step : surface.Steps()) std::visit(player, step);
 }
 

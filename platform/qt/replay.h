@@ -4,10 +4,24 @@
 #include <QPainter>
 
 #include "../surface.h"
+#include "../units.h"
+#include "fonts.h"
 
 namespace platform::qt {
 
-/// Draws all steps of the surface. `unitsPerPixel` tells how many of its units make a pixel: 1, or 15 for twips.
-void Replay(QPainter& painter, const Surface& surface, double unitsPerPixel);
+/// How the units of a surface, the points of its fonts and the pixels of its pictures become the painter's own units.
+struct Measure {
+  double unitsPerPixel = 1;
+  double pixelsPerPoint = kScreenPixelsPerPoint;
+  double pictureScale = 1;  ///< 1: at natural size; pictures of a page are drawn as vectors at any other
+};
+
+inline constexpr Measure kInPixels{};
+inline constexpr Measure kInTwips{.unitsPerPixel = kTwipsPerPixel};
+/// The painter's unit is 1/300 inch, as the page's; fonts are points on paper, pictures 96 pixels to an inch.
+inline constexpr Measure kOnPaper{.pixelsPerPoint = 300.0 / 72, .pictureScale = 300.0 / 96};
+
+/// Draws all steps of the surface.
+void Replay(QPainter& painter, const Surface& surface, const Measure& measure);
 
 }  // namespace platform::qt

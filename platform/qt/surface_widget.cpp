@@ -32,7 +32,7 @@ void PictureWidget::paintEvent(QPaintEvent*) {
   }
   painter.translate(box_.Border, box_.Border);
   Draw(painter, box_.Image, {0, 0});
-  Replay(painter, box_.Drawing, 1);
+  Replay(painter, box_.Drawing, kInPixels);
   painter.resetTransform();
   PaintBorder(painter);
 }
@@ -64,7 +64,7 @@ void ClientWidget::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   if (form_.Ground) painter.fillRect(rect(), ToQt(*form_.Ground));
   Draw(painter, form_.Image, {0, 0});
-  Replay(painter, form_.Drawing, kTwipsPerPixel);
+  Replay(painter, form_.Drawing, kInTwips);
 }
 
 }  // namespace platform::qt

@@ -2,7 +2,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -12,6 +11,7 @@
 #include "button_widget.h"
 #include "convert.h"
 #include "fonts.h"
+#include "frame_widget.h"
 #include "option_widget.h"
 #include "surface_widget.h"
 #include "tool_bar_widget.h"
@@ -118,7 +118,7 @@ void WidgetBuilder::Visit(ComboBox& box) {
 }
 
 void WidgetBuilder::Visit(Frame& frame) {
-  auto* widget = new QGroupBox(parent_);
+  auto* widget = new FrameWidget(frame, parent_);
   Adopt(frame, widget);
   Build(frame, widget);
 }

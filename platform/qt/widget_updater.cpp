@@ -2,7 +2,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -93,7 +92,7 @@ void WidgetUpdater::Visit(ComboBox& box) {
 }
 
 void WidgetUpdater::Visit(Frame& frame) {
-  if (aspect_ == Aspect::Caption) static_cast<QGroupBox&>(widget_).setTitle(ToQt(frame.Caption.Get()));
+  if (aspect_ == Aspect::Caption) widget_.update();
   Common(frame);
 }
 

@@ -17,12 +17,12 @@ using platform::qt::ToQt;
 
 constexpr Colour kInk{255, 0, 0};
 
-QImage Painted(const Surface& surface, double unitsPerPixel = 1, int scale = 1) {
+QImage Painted(const Surface& surface, const platform::qt::Measure& measure = platform::qt::kInPixels, int scale = 1) {
   QImage image(QSize(80, 40) * scale, QImage::Format_RGB32);
   image.setDevicePixelRatio(scale);
   image.fill(Qt::white);
   QPainter painter(&image);
-  platform::qt::Replay(painter, surface, unitsPerPixel);
+  platform::qt::Replay(painter, surface, measure);
   return image;
 }
 
@@ -67,8 +67,8 @@ TEST(Replay, BoxesReachUpToTheirSecondCornerAndAreNeverEmpty) {
 TEST(Replay, TwipsAndScaledScreensKeepThePlace) {
   Surface surface;
   surface.Line(150, 60, 300, 60, kInk);
-  EXPECT_EQ(Inked(Painted(surface, 15)), QRect(10, 4, 10, 1));
-  EXPECT_EQ(Inked(Painted(surface, 15, 3)), QRect(30, 12, 30, 3));
+  EXPECT_EQ(Inked(Painted(surface, platform::qt::kInTwips)), QRect(10, 4, 10, 1));
+  EXPECT_EQ(Inked(Painted(surface, platform::qt::kInTwips, 3)), QRect(30, 12, 30, 3));
 }
 
 TEST(Replay, TextHangsFromTheTopOfItsCell) {

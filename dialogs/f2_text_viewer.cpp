@@ -1,0 +1,43 @@
+#include "f2_text_viewer.h"
+
+#include "../storage/line_reader.h"
+#include "../storage/regular_file.h"
+
+namespace dialogs {
+namespace {
+
+using platform::Place;
+
+constexpr int kClientWidth = 8175;
+constexpr int kClientHeight = 6870;
+constexpr Place kTextPlace{60, 60, 8055, 6315};
+constexpr Place kOkPlace{3420, 6420, 1395, 375};
+
+}  // namespace
+
+F2::F2(const windows::Context& context)
+    : Dialog(context, "F2", kClientWidth, kClientHeight),
+      txtInfo(this, "txtInfo", kTextPlace),
+      cmdOK(this, "cmdOK", kOkPlace) {
+  Caption = "Orvan Begleiter";
+  txtInfo.MultiLine = true;
+  txtInfo.ReadOnly = true;
+  cmdOK.Caption = "OK";
+  cmdOK.Default = true;
+  cmdOK.Click = [this] { Visible = false; };
+  Close = [this] { Visible = false; };
+}
+
+void F2::ShowFile(const std::string& name) {
+  txtInfo.Text = std::string();
+  Caption = "Orvan Begleiter Readme";
+  std::ifstream file = storage::OpenRegularFile(context_.services.ProgramFolder() / name);
+  if (!file.is_open()) return;
+  storage::LineReader reader(file, storage::LineFeeds::EndLines);
+  std::string text;
+  for (std::string line; reader.Next(line);) text += "\r\n" + line;
+  txtInfo.Text = text;
+  BringUp();
+}
+
+}  // namespace dialogs

@@ -1,0 +1,21 @@
+// F2, the text viewer: shows a text file that stands beside the program. It locks nothing.
+#pragma once
+
+#include "../windows/dialog.h"
+
+namespace dialogs {
+
+class F2 : public windows::Dialog {
+ public:
+  explicit F2(const windows::Context& context);
+
+  platform::TextBox txtInfo;
+  platform::CommandButton cmdOK;
+
+  /// Shows the file of this name in the program's folder. One that cannot be read shows nothing: a hidden viewer stays
+  /// hidden, an open one is emptied.
+  void ShowFile(const std::string& name);
+  void SetCaptions() override {}
+};
+
+}  // namespace dialogs

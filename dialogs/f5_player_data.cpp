@@ -1,0 +1,167 @@
+#include "f5_player_data.h"
+
+#include <algorithm>
+
+#include "../core/number_text.h"
+#include "../core/points.h"
+#include "../core/seats.h"
+#include "../storage/code_page.h"
+#include "../windows/form_metrics.h"
+#include "../windows/image_lists.h"
+
+namespace dialogs {
+namespace {
+
+using core::TPlayer;
+using platform::Place;
+using windows::Repeat;
+
+constexpr int kClientWidth = 4710;
+constexpr int kClientHeight = 4110;
+constexpr int kRows = 10;
+constexpr int kPitch = 360;
+
+// The name's row stands apart from the others.
+constexpr auto kLabels = [] {
+  auto places = Repeat<kRows>({540, 210, 2385, 255}, 0, kPitch);
+  places[0].Top = 150;
+  return places;
+}();
+constexpr auto kFields = [] {
+  auto places = Repeat<kRows>({3510, 180, 750, 315}, 0, kPitch);
+  places[0] = {3090, 60, 1575, 315};
+  return places;
+}();
+constexpr auto kMinus = Repeat<kRows - 1>({3090, 570, 285, 255}, 0, kPitch);
+constexpr auto kPlus = Repeat<kRows - 1>({4380, 570, 285, 255}, 0, kPitch);
+constexpr auto kSymbolPlaces = Repeat<kRows - 1>({180, 540, 285, 285}, 0, kPitch);
+constexpr Place kOkPlace{1665, 3720, 1455, 375};
+
+constexpr int kFirstText = 47;  // of the rows' labels, in their order
+constexpr int kYesText = 64;
+constexpr int kNoText = 65;
+
+enum class Shown { Always, InBaseGame, InExpansion };
+
+/// What a row is about: a number with its bounds for the buttons and what stands for no number, or a flag.
+struct Row {
+  std::int16_t TPlayer::*Number = nullptr;
+  bool TPlayer::*Flag = nullptr;
+  int Highest = 0;
+  const char* Otherwise = "";
+  int Symbol = 0;
+  Shown When = Shown::Always;
+};
+
+constexpr Row kTable[kRows] = {
+    {},
+    {.Number = &TPlayer::Settlements, .Highest = 5, .Otherwise = "2", .Symbol = 1},
+    {.Number = &TPlayer::Cities, .Highest = 4, .Otherwise = "0", .Symbol = 2},
+    {.Flag = &TPlayer::LongestRoad, .Symbol = 7},
+    {.Flag = &TPlayer::LargestArmy, .Symbol = 8, .When = Shown::InBaseGame},
+    {.Flag = &TPlayer::PoliticsMetropolis, .Symbol = 3, .When = Shown::InExpansion},
+    {.Flag = &TPlayer::TradeMetropolis, .Symbol = 4, .When = Shown::InExpansion},
+    {.Flag = &TPlayer::ScienceMetropolis, .Symbol = 5, .When = Shown::InExpansion},
+    {.Number = &TPlayer::BonusPoints, .Highest = 99, .Otherwise = "0", .Symbol = 9},
+    {.Flag = &TPlayer::Merchant, .Symbol = 6, .When = Shown::InExpansion},
+};
+
+}  // namespace
+
+F5::F5(const windows::Context& context)
+    : Dialog(context, "F5", kClientWidth, kClientHeight),
+      lblData(this, "lblData", kLabels),
+      txtData(this, "txtData", kFields),
+      cmdMinus(this, "cmdMinus", kMinus),
+      cmdPlus(this, "cmdPlus", kPlus),
+      picSymbol(this, "picSymbol", kSymbolPlaces),
+      cmdOK(this, "cmdOK", kOkPlace) {
+  for (int row = 0; row < kRows; ++row) {
+    txtData(row).KeyUp = [this, row](platform::KeyCode, platform::Modifiers) { F5_txtData_KeyUp(row); };
+    if (row == 0) continue;
+    txtData(row).Align = platform::Alignment::Centre;
+    cmdMinus(row - 1).Caption = "-";
+    cmdPlus(row - 1).Caption = "+";
+    cmdMinus(row - 1).Face = cmdPlus(row - 1).Face = platform::Font{"Verdana", 8.25, true};
+    cmdMinus(row - 1).Click = [this, row] { Step(row, -1); };
+    cmdPlus(row - 1).Click = [this, row] { Step(row, 1); };
+    picSymbol(row - 1).Image = windows::imlIcons.Image(kTable[row].Symbol);
+    picSymbol(row - 1).Opaque = false;
+  }
+  txtData(0).Filter = storage::Storable;
+  cmdOK.Caption = "OK";
+  cmdOK.Default = true;
+  cmdOK.Click = [this] { F5_cmdOK_Click(); };
+  Close = [this] { F5_cmdOK_Click(); };
+}
+
+void F5::SetCaptions() {
+  for (int row = 0; row < kRows; ++row) lblData(row).Caption = state().Text(kFirstText + row);
+}
+
+core::TPlayer& F5::Player() { return state().game.Players.at(static_cast<std::size_t>(state().game.DataPlayer)); }
+
+void F5::PrepareDataDialog() {
+  if (!core::IsSeat(state().game.DataPlayer)) return;
+  const std::string seat = std::to_string(state().game.DataPlayer);
+  Caption = state().Text(46) + " " + Player().Name + " (" + state().Text(16) + seat + ")";
+  ShowRows();
+  for (int row = 0; row < kRows; ++row) ShowValue(row);
+  SetFocus(txtData(0));
+  Open();
+}
+
+/// Shows the rows that the kind of game has; of an unknown kind nothing is known, and the rows stay.
+void F5::ShowRows() {
+  const std::int16_t gameType = state().game.GameType;
+  if (gameType != core::kBaseGame && gameType != core::kFirstExpansion) return;
+  const Shown hidden = gameType == core::kBaseGame ? Shown::InExpansion : Shown::InBaseGame;
+  for (int row = 1; row < kRows; ++row) {
+    const bool visible = kTable[row].When != hidden;
+    lblData(row).Visible = txtData(row).Visible = visible;
+    cmdMinus(row - 1).Visible = cmdPlus(row - 1).Visible = picSymbol(row - 1).Visible = visible;
+  }
+}
+
+void F5::ShowValue(int row) {
+  const Row& about = kTable[row];
+  if (about.Number) {
+    txtData(row).Text = std::to_string(Player().*about.Number);
+  } else if (about.Flag) {
+    txtData(row).Text = state().Text(Player().*about.Flag ? kYesText : kNoText);
+  } else {
+    txtData(row).Text = Player().Name;
+  }
+}
+
+/// One more or fewer within the bounds of the buttons; a flag turns over, whichever button it was.
+void F5::Step(int row, int by) {
+  const Row& about = kTable[row];
+  if (about.Number) {
+    Player().*about.Number = static_cast<std::int16_t>(std::clamp(Player().*about.Number + by, 0, about.Highest));
+  } else {
+    Player().*about.Flag = !(Player().*about.Flag);
+  }
+  ShowValue(row);
+}
+
+/// Any key: the name and numbers are taken as they stand, a flag turns over.
+void F5::F5_txtData_KeyUp(int row) {
+  const Row& about = kTable[row];
+  if (about.Flag) return Step(row, 1);
+  platform::TextBox& field = txtData(row);
+  if (!about.Number) {
+    Player().Name = field.Text;
+    return;
+  }
+  if (!core::WholeNumberIn(field.Text.Get())) field.Text = about.Otherwise;
+  Player().*about.Number = core::WholeNumberIn(field.Text.Get()).value_or(0);
+}
+
+void F5::F5_cmdOK_Click() {
+  Unlock();
+  core::CalcPoints(state().game, screen());
+  Visible = false;
+}
+
+}  // namespace dialogs

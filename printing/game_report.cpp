@@ -1,0 +1,129 @@
+#include "game_report.h"
+
+#include "../core/arithmetic.h"
+#include "../core/dice_entry.h"
+#include "../core/dice_stats.h"
+#include "../core/number_text.h"
+#include "../core/symbols.h"
+#include "../windows/image_lists.h"
+
+namespace printing {
+namespace {
+
+using core::State;
+using platform::Colour;
+using platform::Surface;
+
+constexpr Colour kExpected{0, 0, 255};
+constexpr Colour kMoreOften{0, 255, 0};
+constexpr Colour kNotMoreOften{255, 0, 0};
+
+// Units of the page.
+constexpr int kMargin = 100;
+constexpr int kInfoY = 200;
+constexpr int kSheetWidth = 2480;  // of the narrower of the usual papers
+constexpr int kBoxTop = 400;
+constexpr int kBoxPitch = 200;
+constexpr int kBoxWidth = 800;
+constexpr int kBoxHeight = 160;
+constexpr int kSymbolPitch = 60;
+constexpr int kHeadY = 305;
+constexpr int kSumX = 1000;
+constexpr int kCountX = 1150;
+constexpr int kBarX = 1400;
+constexpr int kMeasuredX = 1900;
+constexpr int kTheoryX = 2200;
+constexpr int kRowsY = 400;
+constexpr int kRowPitch = 95;
+constexpr int kFullBar = 450;
+constexpr int kFootY = 1600;
+constexpr int kEventX = 1000;
+constexpr int kEventPitch = 300;
+constexpr int kEventTextX = 150;  // from its picture
+constexpr int kEventShareY = 1650;
+constexpr int kTotalY = 1675;
+
+void Write(Surface& page, double size, bool bold, double x, double y, const std::string& text) {
+  page.FontSize = size;
+  page.FontBold = bold;
+  page.PrintAt(x, y, text);
+}
+
+void DrawPlayer(const State& state, int seat, Surface& page) {
+  const core::TPlayer& player = state.game.Players[static_cast<std::size_t>(seat)];
+  const int top = kBoxTop + (seat - 1) * kBoxPitch;
+  page.Box(kMargin, top, kMargin + kBoxWidth, top + kBoxHeight, platform::kBlack);
+  int x = kMargin + 1;
+  for (const int symbol : core::SymbolsOf(player, (kSheetWidth - kMargin) / kSymbolPitch)) {
+    page.PaintPicture(windows::imlIcons.Image(symbol), x, top + 1);
+    x += kSymbolPitch;
+  }
+  const int points = state.game.PlayerPoints[static_cast<std::size_t>(seat)];
+  Write(page, 18, true, kMargin + 1, top + 40, player.Name);
+  Write(page, 34, true, points > 9 ? 620 : 700, top, core::PrintedNumber(points));
+}
+
+void DrawHeads(const State& state, Surface& page) {
+  Write(page, 20, true, kMargin, kMargin, state.game.GameTitle);
+  Write(page, 14, false, kMargin, kInfoY, state.game.GameInfo);
+  for (int seat = 1; seat <= core::kSeats; ++seat) {
+    if (state.game.Players[static_cast<std::size_t>(seat)].Active) DrawPlayer(state, seat, page);
+  }
+  Write(page, 14, false, kCountX, kHeadY, state.Text(17));
+  Write(page, 14, false, kMeasuredX, kHeadY, state.Text(18));
+  Write(page, 14, false, kTheoryX, kHeadY, state.Text(20));
+}
+
+/// The measured bar between two rails that reach as far as it should, closed at their end.
+void DrawBars(const core::Game& game, int sum, int y, int barUnit, Surface& page) {
+  const double end = kBarX + core::RoundHalfEven(game.TotalRolls * barUnit * core::TheoryShare(sum) / 100);
+  const double bar = kBarX + game.DiceCount[static_cast<std::size_t>(sum)] * barUnit;
+  page.FillBox(kBarX, y, end, y + 10, kExpected);
+  page.FillBox(kBarX, y + 90, end, y + 80, kExpected);
+  page.FillBox(kBarX, y + 10, bar, y + 80, core::IsAboveShare(game, sum) ? kMoreOften : kNotMoreOften);
+  page.FillBox(end, y, end, y + 90, kExpected);
+}
+
+void DrawRows(const State& state, const std::string& separator, Surface& page) {
+  const core::Game& game = state.game;
+  const int barUnit = game.MaxDiceCount > 0 ? kFullBar / game.MaxDiceCount : kFullBar;
+  for (int sum = core::kLowestSum; sum <= core::kHighestSum; ++sum) {
+    const auto index = static_cast<std::size_t>(sum);
+    const int y = kRowsY + (sum - 1) * kRowPitch;
+    Write(page, 14, false, kSumX, y, std::to_string(sum));
+    page.PrintAt(kCountX, y, std::to_string(game.DiceCount[index]) + " " + state.Text(26));
+    page.PrintAt(kMeasuredX, y, core::PercentText(game.DicePercent[index], separator));
+    page.PrintAt(kTheoryX, y, core::PlainText(core::DiceProbability[index], separator) + "%");
+    DrawBars(game, sum, y, barUnit, page);
+  }
+}
+
+void DrawEventDie(const core::Game& game, Surface& page) {
+  for (int face = 1; face <= core::kEventFaces; ++face) {
+    const int x = kEventX + (face - 1) * kEventPitch;
+    page.PaintPicture(windows::imlW.Image(face + windows::kBeforeEventFaces), x, kFootY);
+    const int count = game.EventCount[static_cast<std::size_t>(face)];
+    Write(page, 10, false, x + kEventTextX, kFootY, std::to_string(count) + "x");
+    page.PrintAt(x + kEventTextX, kEventShareY, std::to_string(core::EventPercent(game, face)) + "%");
+  }
+}
+
+void DrawTotal(const State& state, Surface& page) {
+  const int total = state.game.TotalRolls;
+  Write(page, 14, false, kMargin, kFootY, state.Text(26));
+  Write(page, 25, false, total > 9 ? 400 : 350, kTotalY, std::to_string(total) + "x");
+}
+
+}  // namespace
+
+void DrawGameReport(const State& state, const std::string& decimalSeparator, Surface& page) {
+  page.FontName = "Arial";
+  page.ForeColor = platform::kBlack;
+  page.Cls();
+  DrawHeads(state, page);
+  DrawRows(state, decimalSeparator, page);
+  if (core::HasEventDie(state.game)) DrawEventDie(state.game, page);
+  DrawTotal(state, page);
+}
+
+}  // namespace printing
