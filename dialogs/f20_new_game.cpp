@@ -136,7 +136,13 @@ void F20::SetCaptions() {
               {cmdCancel.Caption, 77}};
   Caption = platform::WithoutMnemonic(state().Text(2));
   for (const auto& [caption, text] : rows) caption = state().Text(text);
-  for (int i = 0; i < core::kSeats; ++i) lblSpieler(i).Caption = state().Text(16) + " " + std::to_string(i + 1);
+  for (int i = 0; i < core::kSeats; ++i) {
+    lblSpieler(i).Caption = txtSpielername(i).SpokenName = state().Text(16) + " " + std::to_string(i + 1);
+  }
+  txtSpieltitel.SpokenName = lblC.Caption;
+  txtSpielinfo.SpokenName = lblD.Caption;
+  txtneuSPBed.SpokenName = lblSiegbed.Caption;
+  txtNOP.SpokenName = lblB.Caption;
 }
 
 void F20::OpenNewGame() {

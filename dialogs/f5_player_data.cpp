@@ -96,7 +96,13 @@ F5::F5(const windows::Context& context)
 }
 
 void F5::SetCaptions() {
-  for (int row = 0; row < kRows; ++row) lblData(row).Caption = state().Text(kFirstText + row);
+  for (int row = 0; row < kRows; ++row) {
+    const std::string& name = state().Text(kFirstText + row);
+    lblData(row).Caption = txtData(row).SpokenName = name;
+    if (row == 0) continue;
+    cmdMinus(row - 1).SpokenName = name + " -";
+    cmdPlus(row - 1).SpokenName = name + " +";
+  }
 }
 
 core::TPlayer& F5::Player() { return state().game.Players.at(static_cast<std::size_t>(state().game.DataPlayer)); }

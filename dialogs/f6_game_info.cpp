@@ -51,8 +51,8 @@ F6::F6(const windows::Context& context)
 void F6::SetCaptions() {
   Caption = platform::WithoutMnemonic(state().Text(5));
   fraSpielInfo.Caption = state().Text(72);
-  lblC.Caption = state().Text(73);
-  lblD.Caption = state().Text(74);
+  lblC.Caption = txtSpieltitel.SpokenName = state().Text(73);
+  lblD.Caption = txtSpielinfo.SpokenName = state().Text(74);
   fraSpielart.Caption = state().Text(75);
 }
 

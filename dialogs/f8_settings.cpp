@@ -151,6 +151,10 @@ void F8::SetCaptions() {
               {cbxRedGreen.Caption, 117}};
   Caption = platform::WithoutMnemonic(state().Text(12));
   for (const auto& [caption, text] : rows) caption = state().Text(text);
+  txtSieger.SpokenName = state().Text(81);
+  cmbHG.SpokenName = state().Text(84);
+  comSelectLang.SpokenName = fraSelectLang.Caption;
+  for (int i = 0; i < core::kEventFaces; ++i) txtEWHotkey(i).SpokenName = state().Text(21 + i);
   cmbHG.Clear();
   for (const int text : {66, 67, 68}) cmbHG.AddItem(state().Text(text));
 }

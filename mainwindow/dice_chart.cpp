@@ -137,6 +137,14 @@ void DrawTotal(const State& state, Surface& picW) {
 
 }  // namespace
 
+std::string SpokenChart(const State& state) {
+  std::string text = state.Text(26) + ": " + std::to_string(state.game.TotalRolls);
+  for (std::size_t sum = core::kLowestSum; sum <= core::kHighestSum; ++sum) {
+    text += "; " + std::to_string(sum) + ": " + std::to_string(state.game.DiceCount[sum]) + " x";
+  }
+  return text;
+}
+
 void DrawDiceChart(State& state, const std::string& decimalSeparator, Surface& picW) {
   core::ComputeDiceFigures(state.game);
   picW.ForeColor = windows::kLightGrey;

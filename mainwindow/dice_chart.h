@@ -12,4 +12,7 @@ namespace mainwindow {
 /// Works out the figures of the game and draws them. `decimalSeparator` is the system's.
 void DrawDiceChart(core::State& state, const std::string& decimalSeparator, platform::Surface& picW);
 
+/// The figures of the chart in words: the total, and how often each sum has come up.
+std::string SpokenChart(const core::State& state);
+
 }  // namespace mainwindow

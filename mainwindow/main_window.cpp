@@ -44,6 +44,7 @@ MainWindow::MainWindow(platform::Services& services)
 void MainWindow::DrawDiceStats() {
   const std::string separator = services_.DecimalSeparator();
   DrawDiceChart(State, separator, F1.picW.Drawing);
+  F1.picW.SpokenName = SpokenChart(State);
   F1.picInfoLine.Visible = State.settings.ShowLast6;
   if (State.settings.ShowLast6) DrawLastSix(State, F1.picInfoLine.Drawing);
 }
@@ -66,6 +67,9 @@ void MainWindow::ShowPlayerPanels() {
 }
 
 void MainWindow::ShowRolledDice() {
+  F1.picWurfel(0).SpokenName = std::to_string(State.entry.Die1);
+  F1.picWurfel(1).SpokenName = std::to_string(State.entry.Die2);
+  F1.picWurfel(2).SpokenName = State.entry.EventDie == 0 ? std::string() : State.Text(20 + State.entry.EventDie);
   F1.picWurfel(0).Image = imlW.Image(State.entry.Die1 + windows::kBeforeBlackFaces);
   F1.picWurfel(1).Image = imlW.Image(State.entry.Die2);
   if (State.game.GameType == core::kFirstExpansion) {

@@ -50,6 +50,14 @@ void PaintPanel(const State& state, int seat, Surface& panel) {
   Write(panel, 32, true, points <= 9 ? kOneDigitX : kTwoDigitsX, kPointsY, core::PrintedNumber(points));
 }
 
+/// Seat, name and points; a leader by the rank.
+std::string SpokenPanel(const State& state, int seat) {
+  const auto index = static_cast<std::size_t>(seat);
+  const std::string rank = state.game.LeaderFlag[index] ? " (1.)" : "";
+  return state.Text(16) + " " + std::to_string(seat) + ": " + state.game.Players[index].Name + ", " +
+         std::to_string(state.game.PlayerPoints[index]) + " " + state.Text(71) + rank;
+}
+
 }  // namespace
 
 void PaintPanels(const State& state, platform::Services& services, F1& f1) {
@@ -58,6 +66,7 @@ void PaintPanels(const State& state, platform::Services& services, F1& f1) {
     const auto ground = PanelPicture(state.settings.HG, seat, state.game.LeaderFlag[static_cast<std::size_t>(seat)]);
     if (services.CanShow(ground)) panel.Image = ground;
     PaintPanel(state, seat, panel.Drawing);
+    panel.SpokenName = SpokenPanel(state, seat);
   }
 }
 

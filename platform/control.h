@@ -29,6 +29,8 @@ class Control : public PropertyOwner {
   Property<bool> Enabled{*this, Aspect::Enabled, true};
   Property<std::string> ToolTipText{*this, Aspect::ToolTip};
   Property<Font> Face{*this, Aspect::Font};
+  /// What a screen reader says of a control that bears no caption.
+  Property<std::string> SpokenName{*this, Aspect::Spoken};
 
   /// A key was released while this control had the focus.
   std::function<void(KeyCode, Modifiers)> KeyUp;

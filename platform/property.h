@@ -20,7 +20,8 @@ enum class Aspect {
   List,
   Focus,
   Font,
-  Title
+  Title,
+  Spoken
 };
 
 /// Whoever owns properties hears of their changes here.

@@ -41,7 +41,7 @@ F10::F10(const windows::Context& context)
 
 void F10::SetCaptions() {
   Caption = platform::WithoutMnemonic(state().Text(6));
-  lblDrucker.Caption = state().Text(91);
+  lblDrucker.Caption = comDruckerListe.SpokenName = state().Text(91);
   cmdPrintnow.Caption = state().Text(95);
   cmdPrintCancel.Caption = state().Text(77);
 }

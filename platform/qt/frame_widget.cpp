@@ -7,8 +7,8 @@
 namespace platform::qt {
 namespace {
 
-constexpr int kCaptionX = 8;     // pixels
-constexpr int kCaptionAir = 3;   // on either side of the caption
+constexpr int kCaptionX = 8;    // pixels
+constexpr int kCaptionAir = 3;  // on either side of the caption
 constexpr double kRounding = 3;
 
 }  // namespace

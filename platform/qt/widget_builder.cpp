@@ -24,8 +24,9 @@ Qt::Alignment ToQt(Alignment align) {
   return align == Alignment::Centre ? Qt::AlignHCenter : align == Alignment::Right ? Qt::AlignRight : Qt::AlignLeft;
 }
 
-constexpr Aspect kInitialAspects[] = {Aspect::Font,    Aspect::Caption, Aspect::List,    Aspect::Text,   Aspect::Value,
-                                      Aspect::Picture, Aspect::ToolTip, Aspect::Enabled, Aspect::Visible};
+constexpr Aspect kInitialAspects[] = {Aspect::Font,    Aspect::Caption, Aspect::List,    Aspect::Text,
+                                      Aspect::Value,   Aspect::Picture, Aspect::ToolTip, Aspect::Spoken,
+                                      Aspect::Enabled, Aspect::Visible};
 
 }  // namespace
 

@@ -34,6 +34,7 @@ void WidgetUpdater::Common(Control& control) {
     case Aspect::Place: widget_.setGeometry(ToQt(control.Position.Get())); break;
     case Aspect::Font: widget_.setFont(ToQt(control.Face.Get())); break;
     case Aspect::Focus: widget_.setFocus(); break;
+    case Aspect::Spoken: widget_.setAccessibleName(ToQt(control.SpokenName.Get())); break;
     case Aspect::Picture:
     case Aspect::Drawing: widget_.update(); break;
     default: break;
