@@ -93,7 +93,10 @@ void FormWindow::FollowVisible(QPoint origin) {
     // Before there is a main window its first dialog stands in the middle of the screen.
     const bool alone = parentWidget() && !parentWidget()->isVisible();
     const QPoint middle = screen()->availableGeometry().center() - rect().center();
-    move(alone ? middle : origin + QPoint(ToPixels(place.Left), ToPixels(place.Top)));
+    const QPoint own = origin + QPoint(ToPixels(place.Left), ToPixels(place.Top));
+    // A dialog that was given no place goes where the window manager has room for it.
+    const bool anywhere = parentWidget() && place.Left == 0 && place.Top == 0;
+    if (alone || !anywhere) move(alone ? middle : own);
     placed_ = !alone;
   }
   show();

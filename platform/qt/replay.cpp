@@ -36,9 +36,10 @@ class Player {
     if (step.Filled) {
       painter_.fillRect(box, ToQt(step.Ink));
     } else {
-      painter_.setPen(ToQt(step.Ink));
+      const double inside = measure_.lineWidth / 2;
+      painter_.setPen(QPen(ToQt(step.Ink), measure_.lineWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
       painter_.setBrush(Qt::NoBrush);
-      painter_.drawRect(box.translated(0.5, 0.5));
+      painter_.drawRect(box.adjusted(inside, inside, -inside, -inside));
     }
   }
 
