@@ -42,12 +42,14 @@ std::optional<double> NumberIn(std::string_view text) {
   if (first == std::string_view::npos) return std::nullopt;
   std::string digits(text.substr(first, text.find_last_not_of(' ') - first + 1));
   std::replace(digits.begin(), digits.end(), ',', '.');
-  if (digits.front() == '+') digits.front() = '0';
-  const bool onlyDigits = digits.find_first_not_of("-.0123456789") == std::string::npos;
+  const std::size_t sign = digits.front() == '+' || digits.front() == '-' ? 1 : 0;
+  if (digits.find_first_not_of(".0123456789", sign) != std::string::npos) return std::nullopt;
   double value = 0;
   const char* const end = digits.data() + digits.size();
-  const auto read = std::from_chars(digits.data(), end, value, std::chars_format::fixed);
-  return onlyDigits && read.ec == std::errc() && read.ptr == end ? std::optional(value) : std::nullopt;
+  const auto read = std::from_chars(digits.data() + sign, end, value, std::chars_format::fixed);
+  if (read.ec == std::errc::result_out_of_range) value = std::numeric_limits<double>::infinity();
+  if (read.ec == std::errc::invalid_argument || read.ptr != end) return std::nullopt;
+  return digits.front() == '-' ? -value : value;
 }
 
 std::optional<std::int16_t> WholeNumberIn(std::string_view text) {

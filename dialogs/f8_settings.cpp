@@ -1,5 +1,7 @@
 #include "f8_settings.h"
 
+#include <utility>
+
 #include "../core/new_game.h"
 #include "../core/number_text.h"
 #include "../platform/mnemonic.h"
@@ -255,8 +257,8 @@ void F8::F8_cmdOK_Click() {
     return;
   }
   ShowLayout(false);
-  state().language.Languages[0] = chosen;
-  LoadLanguage();
+  const std::string before = std::exchange(state().language.Languages[0], chosen);
+  if (!LoadLanguage()) state().language.Languages[0] = before;
   Leave();
   screen().DrawPlayerPanels();
   screen().DrawDiceStats();

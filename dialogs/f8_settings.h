@@ -34,7 +34,7 @@ class F8 : public windows::Dialog {
 
   /// What the dialog has the main window do.
   std::function<void(int theme)> LoadThemeImages;
-  std::function<void()> LoadLanguage;
+  std::function<bool()> LoadLanguage;  ///< false: there is no language to load
   std::function<void()> HotkeysChanged;
 
   /// Brings the controls into line with the variables and opens the dialog.
@@ -51,7 +51,7 @@ class F8 : public windows::Dialog {
   void ListLanguages();
   /// Takes title, captions and the names of the themes from the language.
   void SetCaptions() override;
-  /// Shows the name of a theme, 1 to 3, without choosing it.
+  /// Shows the name of a theme, 1 to 3, which chooses it as if the user had.
   void ShowTheme(int theme);
 
  private:

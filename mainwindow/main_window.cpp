@@ -35,7 +35,7 @@ MainWindow::MainWindow(platform::Services& services)
   F20.OnStart = [this] { FollowNewGame(); };
   F3.ShowReadme = [this] { F2.ShowFile("readme.txt"); };
   F8.LoadThemeImages = [this](int theme) { LoadThemeImages(theme); };
-  F8.LoadLanguage = [this] { LoadLanguage(); };
+  F8.LoadLanguage = [this] { return LoadLanguage() == Started::Yes; };
   F8.HotkeysChanged = [this] { F7.ShowHotkeys(); };
   // Closing the window ends the process at once: nothing is asked and nothing is stored.
   F1.Close = [this] { services_.Quit(0); };

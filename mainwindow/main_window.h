@@ -110,7 +110,6 @@ class MainWindow : public core::Screen, private storage::GameFileEvents {
   // Files, in main_window_files.cpp.
   void LoadSettings();
   void SaveSettings();
-  std::filesystem::path SettingsPath();
   void LoadGame();
   void SaveGame();
   bool ChooseFile(int titleText, std::string filter, int flags);

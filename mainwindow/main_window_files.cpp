@@ -60,13 +60,10 @@ bool MainWindow::ChooseBackground() {
   return !chosen || LoadThemeImages(core::ThemeOf(State.game));
 }
 
-std::filesystem::path MainWindow::SettingsPath() {
-  return storage::SettingsPath(services_.ProgramFolder(), services_.ConfigurationFolder());
-}
-
 /// The theme stays the first one where the file cannot be read to its end.
 void MainWindow::LoadSettings() {
-  std::ifstream file = storage::OpenRegularFile(SettingsPath());
+  const auto path = storage::SettingsToRead(services_.ProgramFolder(), services_.ConfigurationFolder());
+  std::ifstream file = storage::OpenRegularFile(path);
   const bool whole = file.is_open() && storage::ReadSettings(file, State);
   F8.TickClocksAndContrast();
   if (whole) LoadThemeImages(State.settings.AutoHG.IsOff() ? 1 : State.settings.HG);
@@ -77,7 +74,7 @@ void MainWindow::LoadSettings() {
 void MainWindow::SaveSettings() {
   const std::string title = platform::WithoutMnemonic(State.Text(7));
   if (services_.MessageBox(State.Text(101), title, platform::Buttons::YesNo) == platform::Answer::No) return;
-  const auto path = SettingsPath();
+  const auto path = storage::SettingsPath(services_.ProgramFolder(), services_.ConfigurationFolder());
   if (!storage::WriteSettings(path, State)) {
     services_.MessageBox("Die Einstellungen konnten nicht gespeichert werden:\n" + path.string() +
                          "\n\nThe settings could not be saved:\n" + path.string());

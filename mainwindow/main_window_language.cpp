@@ -4,6 +4,7 @@
 
 #include "../platform/mnemonic.h"
 #include "../storage/language_file.h"
+#include "../storage/regular_file.h"
 #include "main_window.h"
 
 namespace mainwindow {
@@ -18,7 +19,7 @@ Started MainWindow::LoadLanguage() {
   if (!ReadLanguageList()) return Started::NoLanguage;
   if (!storage::IsListed(State.language, State.language.Languages[0])) {
     F8.SelectFirstLanguage();
-    return Started::Yes;
+    return storage::IsListed(State.language, State.language.Languages[0]) ? Started::Yes : Started::NoLanguage;
   }
   ReadTexts();
   SetCaptions();
@@ -30,7 +31,7 @@ Started MainWindow::LoadLanguage() {
 /// False if the file holds no language: the user is told, and the languages known so far stay.
 bool MainWindow::ReadLanguageList() {
   const auto path = services_.ProgramFolder() / kLanguageFile;
-  std::ifstream file(path, std::ios::binary);
+  std::ifstream file = storage::OpenRegularFile(path);
   core::Language found = State.language;
   if (storage::ListLanguages(file, found) == 0) {
     services_.MessageBox("Die Sprachdatei fehlt oder enthält keine Sprache:\n" + path.string() +
@@ -43,7 +44,7 @@ bool MainWindow::ReadLanguageList() {
 }
 
 void MainWindow::ReadTexts() {
-  std::ifstream file(services_.ProgramFolder() / kLanguageFile, std::ios::binary);
+  std::ifstream file = storage::OpenRegularFile(services_.ProgramFolder() / kLanguageFile);
   const int count = storage::LoadTexts(file, State.language);
   if (count < core::kTexts) TellOfBlock(count);
 }

@@ -28,7 +28,8 @@ int ListLanguages(std::istream& file, core::Language& language) {
   std::string line;
   while (reader.Next(line)) {
     if (line != kBlockMark || !reader.Next(line)) continue;
-    if (listed == core::kLanguageRoom) continue;
+    // A name that is empty, or means that none was chosen, could never be chosen.
+    if (listed == core::kLanguageRoom || line.empty() || line == core::kNoLanguageYet) continue;
     language.Languages[static_cast<std::size_t>(++listed)] = line;
   }
   return listed;

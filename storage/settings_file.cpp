@@ -64,6 +64,13 @@ std::filesystem::path SettingsPath(const std::filesystem::path& programFolder,
   return !writtenElsewhere && CanWriteWhole(beside) ? beside : own;
 }
 
+std::filesystem::path SettingsToRead(const std::filesystem::path& programFolder,
+                                     const std::filesystem::path& configurationFolder) {
+  std::error_code unknown;
+  const auto path = SettingsPath(programFolder, configurationFolder);
+  return std::filesystem::exists(path, unknown) ? path : programFolder / kFileName;
+}
+
 WriteOutcome WriteSettings(const std::filesystem::path& file, const core::State& state) {
   std::error_code toldByTheWrite;
   std::filesystem::create_directories(file.parent_path(), toldByTheWrite);

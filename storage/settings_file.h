@@ -24,6 +24,11 @@ bool ReadSettings(std::istream& file, core::State& state);
 std::filesystem::path SettingsPath(const std::filesystem::path& programFolder,
                                    const std::filesystem::path& configurationFolder);
 
+/// The file to read at the start: the same, or one beside the program that can only be read, as long as the user has
+/// none.
+std::filesystem::path SettingsToRead(const std::filesystem::path& programFolder,
+                                     const std::filesystem::path& configurationFolder);
+
 /// Writes the file, and makes its folder if there is none. Called by the quit.
 WriteOutcome WriteSettings(const std::filesystem::path& file, const core::State& state);
 

@@ -2,10 +2,14 @@
 
 #include <QApplication>
 #include <QDate>
+#include <QDir>
+#include <QEventLoop>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QLocale>
 #include <QMessageBox>
 #include <QStandardPaths>
+#include <QTimer>
 #include <chrono>
 
 #include "../form.h"
@@ -15,6 +19,8 @@
 
 namespace platform::qt {
 namespace {
+
+constexpr int kLeastBoxWidth = 260;  // pixels
 
 /// From "name|pattern|name|pattern" to the toolkit's filters. "*.*" means all files here, also those without a dot.
 QStringList NameFilters(const std::string& filter) {
@@ -37,6 +43,10 @@ Answer QtServices::MessageBox(const std::string& text, const std::string& title,
   box.setTextFormat(Qt::PlainText);
   box.setText(ToQt(text));
   box.setWindowTitle(title.empty() ? QApplication::applicationName() : ToQt(title));
+  // A short text must not make a box that is too narrow for its title.
+  if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+    grid->addItem(new QSpacerItem(kLeastBoxWidth, 0), grid->rowCount(), 0, 1, grid->columnCount());
+  }
   if (icon == Icon::Critical) box.setIcon(QMessageBox::Critical);
   if (buttons == Buttons::YesNo) {
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
@@ -49,20 +59,40 @@ Answer QtServices::MessageBox(const std::string& text, const std::string& title,
   return Answer::Ok;
 }
 
+/// A loop of its own, which ends with the form, and with the session too.
 void QtServices::WaitWhileVisible(Form& form) {
-  while (form.Visible) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  constexpr int kLook = 20;  // milliseconds
+  QEventLoop loop;
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, &loop, [&] {
+    if (!form.Visible) loop.quit();
+  });
+  look.start(kLook);
+  loop.exec();
 }
 
+/// The toolkit's own dialog on every desktop: a name typed without extension is used as typed.
 bool QtServices::ChooseFile(FileDialog& dialog) {
   QFileDialog chooser(QApplication::activeWindow(), ToQt(dialog.DialogTitle), ToQt(dialog.InitDir));
   const bool open = (dialog.Flags & FileDialog::kFileMustExist) != 0;
+  chooser.setOption(QFileDialog::DontUseNativeDialog);
+  chooser.setOption(QFileDialog::DontConfirmOverwrite, (dialog.Flags & FileDialog::kAskBeforeOverwriting) == 0);
   chooser.setAcceptMode(open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
   chooser.setFileMode(open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   chooser.setNameFilters(NameFilters(dialog.Filter));
-  if (!dialog.FileName.empty()) chooser.selectFile(ToQt(dialog.FileName));
-  if (chooser.exec() != QDialog::Accepted) return false;
-  dialog.FileName = chooser.selectedFiles().value(0).toStdString();
-  return true;
+  if (QFileInfo(ToQt(dialog.FileName)).dir().exists() && !dialog.FileName.empty())
+    chooser.selectFile(ToQt(dialog.FileName));
+  while (chooser.exec() == QDialog::Accepted) {
+    const QString chosen = chooser.selectedFiles().value(0);
+    const bool pathNeeded = (dialog.Flags & FileDialog::kPathMustExist) != 0;
+    if (!pathNeeded || QFileInfo(chosen).dir().exists()) {
+      dialog.FileName = chosen.toStdString();
+      return true;
+    }
+    MessageBox("Diesen Ordner gibt es nicht.\nThere is no such folder.\n\n" + QFileInfo(chosen).path().toStdString(),
+               {}, Buttons::Ok, Icon::None);
+  }
+  return false;
 }
 
 std::vector<std::string> QtServices::PrinterNames() { return InstalledPrinters(); }
@@ -83,7 +113,12 @@ double QtServices::Random() {
   return static_cast<double>(generator_() >> 11) / kBits;
 }
 
-std::filesystem::path QtServices::ProgramFolder() { return QApplication::applicationDirPath().toStdString(); }
+/// The system's own word, whatever bytes the folder's name is made of; the toolkit's where there is none.
+std::filesystem::path QtServices::ProgramFolder() {
+  std::error_code unknown;
+  const auto program = std::filesystem::read_symlink("/proc/self/exe", unknown);
+  return unknown ? std::filesystem::path(QApplication::applicationDirPath().toStdString()) : program.parent_path();
+}
 
 std::filesystem::path QtServices::ConfigurationFolder() {
   return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation).toStdString();

@@ -1,33 +1,72 @@
 #!/usr/bin/env python3
-"""Plays a short evening on a virtual screen and leaves pictures of it: dice are entered by key, one roll is taken back,
-and the chart fills.
-Usage: demo.py PROGRAM FOLDER    FOLDER takes the screenshots"""
+"""Plays a short evening on a virtual screen, by keys, and leaves pictures of it and the saved game: four players and
+the first expansion, rolls and what was built in between, an attack, the standing, the settings, the winner.
+Usage: demo.py PROGRAM FOLDER    FOLDER takes the screenshots and evening.obg"""
 import pathlib
+import shutil
 import sys
 
+from steps import act, begin_game, roll, save
 from virtual_screen import Program, Screen, end_by_itself
 
 TIME_LIMIT = 120  # seconds
-ROLLS = ("43 61 52 35 33 64 21 44 25 54 13 62 34 55 41 63 52 26 11 45 36 22 51 42 65 31 53 16 66 24 32 46 43 15 "
-         "61 56").split()
+NAMES = ["Mathilda", "Jonas", "Ingrid", "Pavel"]
+POINTS_LESS = 2  # so that a short evening has a winner
+
+# Two dice and the key of the event face, rolled one after the other; "2+1" lets seat 2 report its action 1. The seventh
+# ship (b) comes last.
+EVENING = ("43b 61p 2+1 52h 35w 33b 1+1 64p 21h 3+2 44b 25w 4+1 54p 13h 1+4 62b 34h 2+6 55w 3+1 41p 63b 52w 4+9 "
+           "26h 1+2 11p 45w 36b 2+3 22p 51h 1+1 42w 65h 31p 3+8 53w 16h 4+4 66p 24h 32w 46p 53h").split()
+ATTACK, AFTER = "62b", "2+4 52h 2+2"
+WINS = ("2", "1")  # a seat and the action that brings the last point it needs
+
+
+def play_turns(program, turns):
+    for turn in turns:
+        if "+" in turn:
+            act(program, turn[0], turn[2])
+            program.wait_for_main_alone()
+        else:
+            roll(program, *turn)
 
 
 def play(program):
     """Stops at each moment that is worth a picture, with its name and the window."""
-    for first, second in ROLLS[:-1]:
-        program.screen.keys(first, second, "Return")
-        program.wait_for_main_alone()
-    program.screen.keys(ROLLS[-1][0])
-    dialog = program.wait_for_dialog()
-    program.screen.keys(ROLLS[-1][1])
-    yield "dice-dialog", dialog
-    program.screen.keys("Return")
+    keys = program.screen.keys
+    yield "new-game", begin_game(program, NAMES, expansion=True, points_less=POINTS_LESS)
+    keys("Return")
     program.wait_for_main_alone()
-    program.screen.chord("alt", "BackSpace")
-    yield "undo-question", program.wait_for_dialog()
-    program.screen.chord("alt", "y")
-    program.wait_for_main_alone()
+    play_turns(program, EVENING)
     yield "main-window", program.main
+
+    keys(ATTACK[0])
+    dialog = program.wait_for_dialog()
+    keys(ATTACK[1])
+    yield "dice-dialog", dialog
+    keys(ATTACK[2])
+    yield "barbarians", program.wait_for_title("Barbarian attack!")
+    keys("Return")
+    program.wait_for_main_alone()
+
+    keys("F3")
+    yield "action-dialog", program.wait_for_dialog()
+    keys("0")
+    program.wait_for_main_alone()
+    program.screen.chord("ctrl", "t")
+    yield "standing", program.wait_for_dialog()
+    keys("Return")
+    program.wait_for_main_alone()
+    keys("F8")
+    yield "settings", program.wait_for_dialog()
+    keys("Return")
+    program.wait_for_main_alone()
+    save(program, program.folder / "evening.obg")
+
+    play_turns(program, AFTER.split())
+    act(program, *WINS)
+    yield "winner", program.wait_for_title("Standings")
+    keys("Return")
+    program.wait_for_main_alone()
 
 
 def main():
@@ -41,6 +80,7 @@ def main():
         for name, window in play(program):
             program.save_when_calm(folder / f"{name}.png", window)
             print(folder / f"{name}.png")
+        print(shutil.copy(program.folder / "evening.obg", folder))
 
 
 if __name__ == "__main__":

@@ -1,6 +1,6 @@
 """A virtual screen with a window manager, and the program on it. Keys and clicks come from outside, as a user's do;
 what is seen is read from the screen's pixels. Everything that is started here ends with its `with` block.
-Needs Xvfb, openbox, xdotool, xprop, xwininfo and setxkbmap."""
+Needs Xvfb, openbox, xdotool, xprop, xwininfo, setpriv and setxkbmap."""
 import mmap
 import os
 import pathlib
@@ -115,6 +115,11 @@ class Screen:
         """The modifier stays down until the key has come up, as fingers do it."""
         self.run("xdotool", "keydown", modifier, "key", key, "keyup", modifier)
 
+    def type(self, text):
+        """Writes a text in place of what the field in focus holds."""
+        self.chord("ctrl", "a")
+        self.run("xdotool", "type", "--delay", "12", text)
+
     def hold(self, key, seconds):
         self.run("xdotool", "keydown", key)
         time.sleep(seconds)
@@ -149,24 +154,52 @@ class Program:
     """The program as it is shipped, in a folder of its own: the executable and what stands beside it."""
 
     def __init__(self, screen, executable, language="English"):
+        """With a language it is the program of a user who has chosen one before, without one it has never run."""
         self.screen = screen
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="program-", dir=screen.folder))
         shutil.copytree(ROOT / "run", self.folder, dirs_exist_ok=True)
         shutil.copy(executable, self.folder)
-        # A user who has chosen a language before.
-        (self.folder / "orvanbeg.ini").write_bytes(f"#LANGUAGE\r\n{language}\r\n".encode("cp1252"))
-        self._command = [str(self.folder / pathlib.Path(executable).name)]
-        self.process = None
+        self._executable = pathlib.Path(executable).name
+        self.process = self.main = None
+        if language:
+            self.settings.write_bytes(f"#LANGUAGE\r\n{language}\r\n".encode("cp1252"))
+
+    @property
+    def settings(self):
+        return self.folder / "orvanbeg.ini"
+
+    def move(self, folder):
+        self.folder = self.folder.rename(folder)
 
     def start(self):
-        self.process = self.screen.start(self._command)
-        wait_for(self.windows, "the main window", START_PATIENCE)
-        self.main = next(iter(self.windows()))
+        self.launch()
+        self.wait_for_main()
+
+    def launch(self, prefix=()):
+        """Starts the process, through another command if one is given; what it shows first is up to the program."""
+        self.main = None
+        self.process = self.screen.start([*prefix, str(self.folder / self._executable)])
+
+    def wait_for_main(self):
+        """The main window, once it stands alone."""
+        def alone():
+            windows = self.windows()
+            return list(windows.values()) == ["Orvan Begleiter"] and next(iter(windows))
+
+        self.main = wait_for(alone, lambda: f"the main window; there are {self.windows()}", START_PATIENCE)
         self.wait_for_keyboard(self.main)
 
     def stop(self):
         if self.process:
             self.screen.stop(self.process)
+            self.process = None
+
+    def wait_for_end(self):
+        """The exit status, once the process has ended by itself."""
+        wait_for(lambda: self.process.poll() is not None, "the end of the program")
+        status = self.process.returncode
+        self.stop()
+        return status
 
     def windows(self):
         """The windows that can be seen, with their titles."""
@@ -181,7 +214,14 @@ class Program:
             others = [window for window in self.windows() if window != self.main]
             return others[0] if len(others) == 1 else None
 
-        window = wait_for(dialog, lambda: f"one dialog; there are {self.windows()}")
+        window = wait_for(dialog, lambda: f"one dialog; there are {self.windows()}", START_PATIENCE)
+        self.wait_for_keyboard(window)
+        return window
+
+    def wait_for_title(self, title):
+        """The window with this title, whatever others there are."""
+        window = wait_for(lambda: next((one for one, name in self.windows().items() if name == title), None),
+                          lambda: f"a window {title!r}; there are {self.windows()}")
         self.wait_for_keyboard(window)
         return window
 
@@ -203,9 +243,14 @@ class Program:
 
     def box(self, window):
         """The place of a window on the screen without its frame: left, top, width, height."""
-        told = self.screen.run("xwininfo", "-id", str(window))
-        return tuple(int(re.search(name + r":\s+(-?\d+)", told).group(1))
-                     for name in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+        edges = ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")
+
+        def told():
+            answer = self.screen.run("xwininfo", "-id", str(window))
+            found = [re.search(edge + r":\s+(-?\d+)", answer) for edge in edges]
+            return all(found) and tuple(int(edge.group(1)) for edge in found)
+
+        return wait_for(told, f"the place of the window {window}")
 
     def frame(self, window):
         told = self.screen.run("xprop", "-id", str(window), "_NET_FRAME_EXTENTS")
@@ -216,10 +261,10 @@ class Program:
     def menu_height(self):
         return self.box(self.main)[3] - CLIENT_HEIGHT
 
-    def row(self, x, y, count):
-        """Pixels of the main window as Screen.row; (0, 0) is the corner below the menu bar."""
-        left, top, _, height = self.box(self.main)
-        return self.screen.row(left + x, top + height - CLIENT_HEIGHT + y, count)
+    def pixels(self, x, y, width, height):
+        """A part of the main window, as Screen.pixels; (0, 0) is the corner below the menu bar."""
+        left, top, _, own_height = self.box(self.main)
+        return self.screen.pixels((left + x, top + own_height - CLIENT_HEIGHT + y, width, height))
 
     def click(self, x, y, button=1, window=None):
         """Clicks (1 left, 2 middle, 3 right) into a window; in the main window (0, 0) is the corner below the menu."""
