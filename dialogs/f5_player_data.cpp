@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "../core/arithmetic.h"
 #include "../core/number_text.h"
 #include "../core/points.h"
 #include "../core/seats.h"
@@ -140,11 +141,13 @@ void F5::ShowValue(int row) {
   }
 }
 
-/// One more or fewer within the bounds of the buttons; a flag turns over, whichever button it was.
+/// One more, up to the bound, or one fewer, down to 0; a flag turns over, whichever button it was.
 void F5::Step(int row, int by) {
   const Row& about = kTable[row];
   if (about.Number) {
-    Player().*about.Number = static_cast<std::int16_t>(std::clamp(Player().*about.Number + by, 0, about.Highest));
+    const int stepped = Player().*about.Number + by;
+    const int bounded = by < 0 ? std::max(stepped, 0) : std::min(stepped, about.Highest);
+    Player().*about.Number = core::Saturate16(bounded);
   } else {
     Player().*about.Flag = !(Player().*about.Flag);
   }
