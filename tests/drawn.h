@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdio>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -9,11 +10,10 @@
 
 namespace tests {
 
-inline std::string At(double x, double y) {
-  char text[48];
-  std::snprintf(text, sizeof text, "%g,%g", x, y);
-  return text;
-}
+using Lines = std::vector<std::string>;
+
+inline std::string Number(double value) { return (std::ostringstream() << value).str(); }
+inline std::string At(double x, double y) { return Number(x) + "," + Number(y); }
 
 inline std::string Hex(platform::Colour ink) {
   char text[8];
@@ -22,19 +22,20 @@ inline std::string Hex(platform::Colour ink) {
 }
 
 /// The steps in their order: `1,28 'Ada' Arial 18+ FFFF00` is a bold text (the face is told unless it is Verdana),
-/// `1,108-243,108 828282` a line, `17,1 imlIcons/04.svg` a picture.
-inline std::vector<std::string> Drawn(const platform::Surface& surface) {
-  std::vector<std::string> lines;
+/// `1,108-243,108 828282` a line, the same in brackets a filled box, `17,1 imlIcons/04.svg` a picture.
+inline Lines Drawn(const platform::Surface& surface) {
+  Lines lines;
   for (const platform::DrawingStep& step : surface.Steps()) {
     if (const auto* text = std::get_if<platform::TextStep>(&step)) {
       const std::string face = text->Face.Name == "Verdana" ? "" : text->Face.Name + " ";
-      const std::string size = At(text->Face.Size, 0);
-      lines.push_back(At(text->X, text->Y) + " '" + text->Text + "' " + face + size.substr(0, size.find(',')) +
+      lines.push_back(At(text->X, text->Y) + " '" + text->Text + "' " + face + Number(text->Face.Size) +
                       (text->Face.Bold ? "+ " : " ") + Hex(text->Ink));
     } else if (const auto* picture = std::get_if<platform::PictureStep>(&step)) {
       lines.push_back(At(picture->X, picture->Y) + " " + picture->Image.Name);
     } else if (const auto* line = std::get_if<platform::LineStep>(&step)) {
       lines.push_back(At(line->X1, line->Y1) + "-" + At(line->X2, line->Y2) + " " + Hex(line->Ink));
+    } else if (const auto* box = std::get_if<platform::BoxStep>(&step)) {
+      lines.push_back("[" + At(box->X1, box->Y1) + "-" + At(box->X2, box->Y2) + "] " + Hex(box->Ink));
     }
   }
   return lines;

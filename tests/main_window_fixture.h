@@ -12,9 +12,11 @@
 
 namespace tests {
 
+using Act = std::function<void()>;
+
 class MainWindowTest : public testing::Test {
  protected:
-  void SetUp() override { ASSERT_EQ(window.Load(), mainwindow::Started::Yes); }
+  MainWindowTest() { EXPECT_EQ(window.Load(), mainwindow::Started::Yes); }
 
   /// Turns the running game into one of the first expansion.
   void PlayExpansion() {
@@ -29,13 +31,20 @@ class MainWindowTest : public testing::Test {
     if (platform::Form* form = window.Desktop.KeyReceiver(window.F1)) Key(*form, code, with);
   }
   int Rolls() { return core::CountTotalRolls(game); }
-  /// The number of the picture that a box shows, of the image list of the dice.
-  static std::string Face(const platform::PictureBox& box) { return box.Image.Get().Name.substr(5, 2); }
+  bool Locking(const platform::Form& dialog) const { return dialog.Visible && !window.F1.Enabled; }
+  bool Closed(const platform::Form& dialog) const { return !dialog.Visible && window.F1.Enabled; }
+  /// The numbers of the pictures of three dice, of their image list.
+  static std::string Faces(const platform::ControlArray<platform::PictureBox>& dice) {
+    std::string faces;
+    for (int i = 0; i < 3; ++i) faces += (i ? " " : "") + dice(i).Image.Get().Name.substr(5, 2);
+    return faces;
+  }
 
   ScriptedServices services;
   mainwindow::MainWindow window{services};
   core::Game& game = window.State.game;
   core::Entry& entry = window.State.entry;
+  core::Settings& settings = window.State.settings;
 };
 
 }  // namespace tests

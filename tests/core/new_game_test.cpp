@@ -9,102 +9,65 @@ namespace {
 
 using testing::Each;
 using testing::ElementsAre;
-using tests::kTitles;
-using tests::SeatedGame;
 
-/// A game in full swing: every variable differs from what a new game sets.
-State InFullSwing() {
+/// A new game of three, begun when another was in full swing.
+State Started(std::int16_t gameType, std::int16_t players = 3) {
   State state;
-  state.game = SeatedGame(6);
-  for (TPlayer& player : WithoutPlaceZero(state.game.Players)) {
-    player.Settlements = 4;
-    player.Cities = 3;
-    player.BonusPoints = 7;
-    for (const auto title : kTitles) player.*title = true;
-  }
-  state.game.PlayerPoints.fill(21);
+  state.game = tests::SeatedGame(6, true);
+  for (TPlayer& player : state.game.Players) player.Settlements = player.Cities = player.BonusPoints = 4;
   state.game.DiceCount.fill(9);
   state.game.EventCount.fill(8);
   state.game.DiceLog.fill({1, 2, 3});
   state.game.Clock = {500, 50};
   state.game.GameWon = true;
-  state.entry = {.Die1 = 5, .Die2 = 6, .EventDie = 4, .DiceEntryStage = 2};
-  state.settings.HG = 3;
+  state.entry.DiceEntryStage = 2;
+  StartGame(
+      state,
+      {players, gameType, 15, {"", "Ada", "Björn", "", "Dora", "Emil", "Fritz"}, kOn, kOff, "Sunday", " at home"});
   return state;
 }
 
-NewGame ThreeIn(std::int16_t gameType) {
-  return {.NumPlayers = 3,
-          .GameType = gameType,
-          .WinPoints = 15,
-          .Names = {"", "Ada", "Björn", "", "Dora", "Emil", "Fritz"},
-          .Flottillen = kOn,
-          .Scenario = kOn,
-          .Title = "Sunday",
-          .Info = "at home"};
-}
-
 TEST(StartGame, GivesAllSixSeatsThePiecesOfTheirKindOfGame) {
-  struct Case {
-    std::int16_t GameType, Settlements, Cities, Points;
-  };
-  for (const Case& each : {Case{2, 2, 0, 2}, Case{3, 1, 1, 3}, Case{7, 4, 3, 7}}) {
-    SCOPED_TRACE(each.GameType);
-    State state = InFullSwing();
-    StartGame(state, ThreeIn(each.GameType));
-    const std::array<std::string, kSeats + 1> names{"", "Ada", "Björn", "", "P4", "P5", "P6"};
+  const std::array<std::int16_t, 4> cases[] = {{2, 2, 0, 2}, {3, 1, 1, 3}, {7, 4, 4, 7}};
+  const std::string names[] = {"", "Ada", "Björn", "", "P4", "P5", "P6"};
+  for (const auto& [gameType, settlements, cities, points] : cases) {
+    const Game game = Started(gameType).game;
     for (std::size_t seat = 1; seat <= kSeats; ++seat) {
-      const TPlayer expected{
-          .Name = names[seat], .Settlements = each.Settlements, .Cities = each.Cities, .Active = seat <= 3};
-      EXPECT_EQ(state.game.Players[seat], expected) << "seat " << seat;
-      EXPECT_EQ(state.game.PlayerPoints[seat], each.Points);
+      const TPlayer expected{.Name = names[seat], .Settlements = settlements, .Cities = cities, .Active = seat <= 3};
+      EXPECT_EQ(game.Players[seat], expected) << "seat " << seat << ", kind of game " << gameType;
+      EXPECT_EQ(game.PlayerPoints[seat], points);
     }
   }
 }
 
 TEST(StartGame, TakesTheChoicesAndClearsTheCountsButKeepsTheLog) {
-  State state = InFullSwing();
-  StartGame(state, ThreeIn(kFirstExpansion));
+  const State state = Started(kFirstExpansion);
   const Game& game = state.game;
-  EXPECT_EQ(game.NumPlayers, 3);
-  EXPECT_EQ(game.GameType, 3);
-  EXPECT_EQ(game.WinPoints, 15);
-  EXPECT_EQ(game.OptFlottillen, kOn);
-  EXPECT_EQ(game.OptScenario, kOn);
-  EXPECT_EQ(game.GameTitle, "Sunday");
-  EXPECT_EQ(game.GameInfo, "at home");
+  EXPECT_EQ(game.GameTitle + game.GameInfo, "Sunday at home");
+  EXPECT_TRUE(game.OptFlottillen.IsOn() && game.OptScenario.IsOff());
   EXPECT_THAT(game.EventCount, ElementsAre(8, 0, 0, 0, 0)) << "the rolls without event die are nobody's to reset";
   EXPECT_THAT(WithoutPlaceZero(game.DiceCount), Each(0));
-  EXPECT_THAT(game.Clock, ElementsAre(0, 0));
-  EXPECT_TRUE(game.ClockRunning);
+  EXPECT_THAT(game.Clock, Each(0));
+  EXPECT_TRUE(game.ClockRunning && game.GameWon);
   EXPECT_EQ(state.entry.DiceEntryStage, 0);
   EXPECT_THAT(game.DiceLog, Each(TRoll{1, 2, 3}));
-  EXPECT_TRUE(game.GameWon);
-  EXPECT_EQ(state.settings.HG, 3);
 }
 
 TEST(StartGame, KeepsToTheSeatsWhateverNumberOfPlayersIsAskedFor) {
-  for (const auto players : std::to_array<std::int16_t>({-32768, 0, 7, 32767})) {
-    State state = InFullSwing();
-    NewGame chosen = ThreeIn(kBaseGame);
-    chosen.NumPlayers = players;
-    StartGame(state, chosen);
-    EXPECT_EQ(state.game.Players[6].Active, players > 0) << players;
-    EXPECT_EQ(state.game.Players[6].Name, players > 0 ? "Fritz" : "P6");
+  for (const auto players : std::to_array<std::int16_t>({-32768, 0, 7})) {
+    const TPlayer last = Started(kBaseGame, players).game.Players[6];
+    EXPECT_EQ(last.Active, players > 0) << players;
+    EXPECT_EQ(last.Name, players > 0 ? "Fritz" : "P6");
   }
 }
 
 TEST(Theme, FollowsTheSecondExpansionBeforeTheKindOfGame) {
-  struct Case {
-    std::int16_t GameType, Flottillen;
-    int Theme;
-  };
-  for (const Case& each : {Case{2, 0, 1}, Case{3, 0, 2}, Case{2, 1, 3}, Case{3, 1, 3}, Case{7, 1, 3}, Case{7, 0, 0},
-                           Case{0, 0, 0}, Case{2, 2, 0}, Case{3, -1, 0}}) {
+  const std::array<std::int16_t, 3> cases[] = {{2, 0, 1}, {3, 0, 2}, {2, 1, 3}, {7, 1, 3}, {7, 0, 0}, {3, -1, 0}};
+  for (const auto& [gameType, flottillen, theme] : cases) {
     Game game;
-    game.GameType = each.GameType;
-    game.OptFlottillen = CheckValue{each.Flottillen};
-    EXPECT_EQ(ThemeOf(game), each.Theme) << each.GameType << ", " << each.Flottillen;
+    game.GameType = gameType;
+    game.OptFlottillen = CheckValue{flottillen};
+    EXPECT_EQ(ThemeOf(game), theme) << gameType << ", " << flottillen;
   }
 }
 

@@ -1,97 +1,87 @@
+// What holdings are worth, who leads, who has won and how the players stand.
 #include "../../core/points.h"
 
 #include <gmock/gmock.h>
 
+#include "../../core/ranking.h"
 #include "seated_game.h"
 
 namespace core {
 namespace {
 
 using testing::ElementsAre;
+using tests::kTitles;
+using tests::SeatedGame;
 
 using SixPoints = std::array<std::int16_t, kSeats>;
 
-/// A game whose seats have these points, with its leaders found.
-State WithPoints(const SixPoints& points) {
+/// A game of so many players whose seats have these points, with its leaders found.
+State WithPoints(const SixPoints& points, int players = kSeats) {
   State state;
-  state.settings.ShowWinner = true;
+  state.game = SeatedGame(players);
   std::ranges::copy(points, WithoutPlaceZero(state.game.PlayerPoints).begin());
   FindLeaders(state.game);
   return state;
 }
 
-TEST(Points, AddUpAllHoldingsOfEverySeat) {
-  const std::vector<std::pair<TPlayer, std::int16_t>> cases{
-      {{.Name = "", .Settlements = 2}, 2},
-      {{.Name = "", .Settlements = 1, .Cities = 1}, 3},
-      {{.Name = "", .Settlements = 5, .Cities = 4, .LongestRoad = true, .BonusPoints = 3}, 18},
-      {{.Name = "",
-        .Cities = 1,
-        .PoliticsMetropolis = true,
-        .TradeMetropolis = true,
-        .ScienceMetropolis = true,
-        .Merchant = true},
-       9},
-      {{.Name = "", .LargestArmy = true}, 2},
-      {{.Name = "", .TradeMetropolis = true}, 2},  // no city under it
-      {{.Name = "", .Merchant = true}, 1},
-      {{.Name = "", .Settlements = -3, .BonusPoints = -4}, -7},
-      {{.Name = "", .Settlements = 32767, .Cities = 32767, .BonusPoints = 32767}, 32767},
-      {{.Name = "", .Settlements = -32768, .Cities = -32768, .Merchant = true}, -32768},
-  };
-  for (const auto& [holdings, points] : cases) {
-    for (std::size_t seat = 1; seat <= kSeats; ++seat) {
-      Game game;  // nobody is marked as playing
-      game.Players[seat] = holdings;
-      std::array<std::int16_t, kSeats + 1> expected{};
-      expected[seat] = points;
-      ComputePoints(game);
-      EXPECT_EQ(game.PlayerPoints, expected);
-    }
+TEST(Points, AddUpAllHoldingsOfEverySeatWhetherItPlaysOrNot) {
+  const std::int16_t pieces[kSeats][3] = {{2}, {1, 1}, {5, 4, 3}, {-3, 0, -4}, {32767, 32767, 32767}, {-32768, -32768}};
+  Game withPieces, withTitles;
+  for (std::size_t seat = 1; seat <= kSeats; ++seat) {
+    const auto& [settlements, cities, bonusPoints] = pieces[seat - 1];
+    withPieces.Players[seat] = {.Name = "", .Settlements = settlements, .Cities = cities, .BonusPoints = bonusPoints};
+    withTitles.Players[seat].*kTitles[seat - 1] = true;  // no city under the metropolises
   }
+  ComputePoints(withPieces);
+  ComputePoints(withTitles);
+  EXPECT_THAT(withPieces.PlayerPoints, ElementsAre(0, 2, 3, 16, -7, 32767, -32768));
+  EXPECT_THAT(withTitles.PlayerPoints, ElementsAre(0, 2, 2, 2, 2, 2, 1));
 }
 
 TEST(Points, AreBroughtIntoTwoDigits) {
-  State state = WithPoints({-32768, -1, 0, 99, 120, 32767});
+  State state = WithPoints({-32768, -1, 0, 99, 100, 32767});
   ClampPoints(state.game);
   EXPECT_THAT(state.game.PlayerPoints, ElementsAre(0, 0, 0, 0, 99, 99, 99));
 }
 
 TEST(Leaders, AreAllWhomNobodyExceeds) {
-  const auto leaders = [](const SixPoints& points) {
-    std::string seats;
-    const State state = WithPoints(points);
-    for (int seat = 1; seat <= kSeats; ++seat) {
-      if (state.game.LeaderFlag[static_cast<std::size_t>(seat)]) seats += std::to_string(seat);
-    }
-    return seats;
-  };
-  EXPECT_EQ(leaders({2, 2, 2, 2, 2, 2}), "123456");
-  EXPECT_EQ(leaders({2, 2, 5, 2, 5, 4}), "35");
-  EXPECT_EQ(leaders({2, 2, 2, 2, 2, 3}), "6");
-  EXPECT_EQ(leaders({-5, -4, -9, -9, -9, -9}), "2") << "place 0 with its 0 points takes no part";
-  EXPECT_FALSE(WithPoints({}).game.LeaderFlag[0]);
+  EXPECT_THAT(WithPoints({2, 2, 5, 2, 5, 4}, 2).game.LeaderFlag, ElementsAre(0, 0, 0, 1, 0, 1, 0));
+  EXPECT_THAT(WithPoints({-5, -4, -9, -9, -9, -9}).game.LeaderFlag, ElementsAre(0, 0, 1, 0, 0, 0, 0));
 }
 
-TEST(Winner, IsTheFirstLeaderWithThePointsToWin) {
-  struct Case {
-    SixPoints Points;
-    std::int16_t WinPoints;
-    std::optional<int> Seat;
+TEST(Winner, IsTheFirstLeaderWithThePointsToWinWhileOneIsToBeShown) {
+  const auto winner = [](const SixPoints& points, std::int16_t winPoints, bool show = true) {
+    State state = WithPoints(points);
+    state.game.WinPoints = winPoints;
+    state.settings.ShowWinner = show;
+    return WinningSeat(state).value_or(0);
   };
-  const std::vector<Case> cases{
-      {{9, 9, 9, 2, 2, 2}, 10, {}},    {{2, 10, 3, 10, 2, 2}, 10, 2},
-      {{10, 2, 11, 2, 2, 2}, 10, 3},  // who has 10 does not lead
-      {{2, 2, 2, 2, 2, 12}, 10, 6},    {{2, 2, 2, 2, 2, 2}, 2, 1},
-      {{0, 0, 0, 0, 0, 0}, -32768, 1},
-  };
-  for (const Case& each : cases) {
-    State state = WithPoints(each.Points);
-    state.game.WinPoints = each.WinPoints;
-    EXPECT_EQ(WinningSeat(state), each.Seat) << testing::PrintToString(each.Points);
-    EXPECT_EQ(WinningSeat(state), each.Seat) << "a win is not remembered";
-    state.settings.ShowWinner = false;
-    EXPECT_EQ(WinningSeat(state), std::nullopt);
+  EXPECT_EQ(winner({9, 9, 9, 2, 2, 2}, 10), 0);
+  EXPECT_EQ(winner({2, 10, 3, 10, 2, 2}, 10), 2);
+  EXPECT_EQ(winner({10, 2, 11, 2, 2, 2}, 10), 3) << "who has 10 does not lead";
+  EXPECT_EQ(winner({2, 2, 2, 2, 2, 12}, 10), 6);
+  EXPECT_EQ(winner({2, 2, 2, 2, 2, 12}, 10, false), 0);
+  EXPECT_EQ(winner({}, -32768), 1);
+}
+
+/// "1.P3=8 2.P2=5 2.P1=5-": ranks, names and points, a "-" behind a seat that does not play.
+std::string Standing(const SixPoints& sixPoints, int players) {
+  std::string standing;
+  for (const auto& [rank, name, active, points] : RankPlayers(WithPoints(sixPoints, players).game)) {
+    standing += std::to_string(rank) + "." + name + "=" + std::to_string(points) + (active ? " " : "- ");
+  }
+  return standing;
+}
+
+TEST(Ranking, OrdersByPointsLetsEqualsShareARankAndCountsNothingForWhoDoesNotPlay) {
+  EXPECT_EQ(Standing({1, 2, 3, 99, 99, 99}, 3), "1.P3=3 2.P2=2 3.P1=1 ");
+  EXPECT_EQ(Standing({3, 7, 3, 7, 1, 9}, 6), "1.P6=9 2.P2=7 2.P4=7 4.P1=3 4.P3=3 6.P5=1 ");
+  EXPECT_EQ(Standing({-4, -3}, 2), "1.P3=0- 1.P4=0- ");
+}
+
+TEST(Ranking, KeepsToTheSeatsWhateverNumberOfPlayersAFileBrings) {
+  for (const auto& [players, places] : {std::pair{-32768, 0U}, {0, 0U}, {1, 1U}, {7, 6U}, {32767, 6U}}) {
+    EXPECT_EQ(RankPlayers(SeatedGame(players)).size(), places) << players;
   }
 }
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <string>
 
 #include "../../core/seats.h"
@@ -13,14 +12,14 @@ inline constexpr std::array<bool core::TPlayer::*, 6> kTitles{
     &core::TPlayer::LongestRoad,     &core::TPlayer::LargestArmy,       &core::TPlayer::PoliticsMetropolis,
     &core::TPlayer::TradeMetropolis, &core::TPlayer::ScienceMetropolis, &core::TPlayer::Merchant};
 
-/// Seats "P1" to "P6", of which the first ones play.
-inline core::Game SeatedGame(int players = core::kSeats) {
+/// Seats "P1" to "P6", of which the first ones play. `titles`: whether every seat holds every title.
+inline core::Game SeatedGame(int players = core::kSeats, bool titles = false) {
   core::Game game;
   game.NumPlayers = static_cast<std::int16_t>(players);
-  for (int seat = 1; seat <= core::kSeats; ++seat) {
-    core::TPlayer& player = game.Players[static_cast<std::size_t>(seat)];
+  for (int seat = 1; core::TPlayer & player : core::WithoutPlaceZero(game.Players)) {
+    for (const auto title : kTitles) player.*title = titles;
     player.Name = "P" + std::to_string(seat);
-    player.Active = seat <= players;
+    player.Active = seat++ <= players;
   }
   return game;
 }

@@ -4,19 +4,18 @@
 #include <gmock/gmock.h>
 
 #include "../../mainwindow/last_six.h"
+#include "../drawn.h"
 
 namespace tests {
 namespace {
 
-using namespace platform;
-using testing::ElementsAre;
 using testing::IsSupersetOf;
-using testing::UnorderedElementsAre;
+using Ends = std::array<int, 11>;  // one for each of the sums 2 to 12, in pixels
 
-constexpr Colour kGrey{0x99, 0x99, 0x99};
-constexpr Colour kMarker{0x41, 0x69, 0xE1};
-constexpr Colour kText{232, 232, 232};
-constexpr Colour kRed{255, 0, 0}, kGreen{0, 255, 0};
+Lines Grey(Lines texts) {
+  for (std::string& text : texts) text += " E8E8E8";
+  return texts;
+}
 
 class DiceChartTest : public testing::Test {
  protected:
@@ -26,163 +25,102 @@ class DiceChartTest : public testing::Test {
     state.settings.EventHotkey = {0, 'P', 'H', 'W', 0xD6};
     game.GameType = core::kBaseGame;
   }
-  void Draw() { mainwindow::DrawDiceChart(state, ",", chart); }
-
-  template <typename Step>
-  std::vector<Step> Steps() const {
-    std::vector<Step> steps;
-    for (const DrawingStep& step : chart.Steps()) {
-      if (const auto* found = std::get_if<Step>(&step)) steps.push_back(*found);
-    }
-    return steps;
+  /// The whole drawing; the steps are as many as told.
+  Lines Chart(std::size_t steps) {
+    mainwindow::DrawDiceChart(state, ",", chart);
+    EXPECT_EQ(chart.Steps().size(), steps);
+    return Drawn(chart);
   }
-  /// Each text with its place and size, "+" for bold; all are light grey.
-  std::vector<std::string> Texts() const {
-    std::vector<std::string> texts;
-    for (const TextStep& step : Steps<TextStep>()) {
-      EXPECT_EQ(step.Ink, kText) << step.Text;
-      EXPECT_EQ(step.Face.Name, "Verdana");
-      texts.push_back(std::to_string(int(step.X)) + "," + std::to_string(int(step.Y)) + " " +
-                      std::to_string(int(step.Face.Size)) + (step.Face.Bold ? "+ " : " ") + step.Text);
+  /// Each row has an open bracket and in it a bar; only one sum (0: each of them) is above its share.
+  void ExpectBars(const Ends& brackets, const Ends& bars, int above) const {
+    Lines expected, boxes = Drawn(chart);
+    std::erase_if(boxes, [](const std::string& line) { return line[0] != '['; });
+    for (int row = 0; row < 11; ++row) {
+      const int y = 20 + 20 * row, end = brackets[row];
+      const std::string bar = above == 0 || above == row + 2 ? "] 00FF00" : "] FF0000";
+      expected.insert(expected.end(), {"[" + At(80, y) + "-" + At(end, y + 2) + "] 4169E1",
+                                       "[" + At(80, y + 15) + "-" + At(end, y + 13) + "] 4169E1",
+                                       "[" + At(80, y + 2) + "-" + At(bars[row], y + 13) + bar,
+                                       "[" + At(end, y) + "-" + At(end, y + 15) + "] 4169E1"});
     }
-    return texts;
-  }
-  /// The four boxes of each row: where markers and bars end for the sums 2 to 12, and the bars' colours.
-  void ExpectBars(const std::array<int, 11>& markerEnds, const std::array<int, 11>& barEnds,
-                  const std::array<Colour, 11>& colours) {
-    const auto boxes = Steps<BoxStep>();
-    ASSERT_EQ(boxes.size(), 44U);
-    for (std::size_t row = 0; row < 11; ++row) {
-      const double y = 20.0 + 20.0 * static_cast<double>(row), end = markerEnds[row], bar = barEnds[row];
-      const std::vector<BoxStep> expected{{80, y, end, y + 2, kMarker},
-                                          {80, y + 15, end, y + 13, kMarker},
-                                          {80, y + 2, bar, y + 13, colours[row]},
-                                          {end, y, end, y + 15, kMarker}};
-      const auto first = boxes.begin() + static_cast<std::ptrdiff_t>(4 * row);
-      EXPECT_TRUE(std::equal(expected.begin(), expected.end(), first)) << "sum " << row + 2;
-    }
+    EXPECT_EQ(boxes, expected);
   }
 
   core::State state;
   core::Game& game = state.game;
-  Surface chart;
+  platform::Surface chart;
 };
 
 TEST_F(DiceChartTest, FirstRollOfASeven) {
   game.DiceCount[7] = 1;
-  Draw();
-  ExpectBars({88, 96, 104, 113, 121, 129, 121, 113, 104, 96, 88}, {80, 80, 80, 80, 80, 380, 80, 80, 80, 80, 80},
-             {kRed, kRed, kRed, kRed, kRed, kGreen, kRed, kRed, kRed, kRed, kRed});
-  EXPECT_THAT(Steps<LineStep>(), ElementsAre(LineStep{2, 15, 599, 15, kGrey}, LineStep{1, 16, 600, 16, kBlack},
-                                             LineStep{2, 17, 599, 17, kGrey}, LineStep{499, 2, 499, 249, kGrey},
-                                             LineStep{500, 1, 500, 250, kBlack}, LineStep{501, 2, 501, 249, kGrey},
-                                             LineStep{501, 193, 599, 193, kGrey}, LineStep{500, 194, 600, 194, kBlack},
-                                             LineStep{501, 195, 599, 195, kGrey}));
-  EXPECT_TRUE(Steps<PictureStep>().empty());
-  EXPECT_THAT(Texts(), IsSupersetOf({"35,1 9 T17", "400,1 9 T18", "450,1 9 T20", "5,120 9+ 7", "35,120 9 1 x",
-                                     "400,120 9 100,0%", "450,120 9 16,7%", "5,220 9+ 12", "35,220 9 0 x",
-                                     "400,220 9 0%", "450,220 9 2,8%", "503,195 8 T26", "530,205 20+ 1x"}));
+  const Lines drawn = Chart(102);
+  ExpectBars({88, 96, 104, 113, 121, 129, 121, 113, 104, 96, 88}, {80, 80, 80, 80, 80, 380, 80, 80, 80, 80, 80}, 7);
+  EXPECT_THAT(drawn, IsSupersetOf({"2,15-599,15 999999", "1,16-600,16 000000", "2,17-599,17 999999",
+                                   "499,2-499,249 999999", "500,1-500,250 000000", "501,2-501,249 999999",
+                                   "501,193-599,193 999999", "500,194-600,194 000000", "501,195-599,195 999999"}));
+  EXPECT_THAT(drawn,
+              IsSupersetOf(Grey({"35,1 'T17' 9", "400,1 'T18' 9", "450,1 'T20' 9", "5,120 '7' 9+", "35,120 '1 x' 9",
+                                 "400,120 '100,0%' 9", "450,120 '16,7%' 9", "5,220 '12' 9+", "35,220 '0 x' 9",
+                                 "400,220 '0%' 9", "450,220 '2,8%' 9", "503,195 'T26' 8", "530,205 '1x' 20+"})));
 }
 
 TEST_F(DiceChartTest, TheoryFulfilledInTheExpansion) {
   game.GameType = core::kFirstExpansion;
   game.DiceCount = {0, 0, 1, 2, 3, 4, 5, 6, 5, 4, 3, 2, 1};
   game.EventCount = {0, 6, 6, 5, 19};
-  Draw();
-  std::array<Colour, 11> allAbove;
-  allAbove.fill(kGreen);
+  const Lines drawn = Chart(133);
   ExpectBars({115, 151, 187, 223, 259, 295, 259, 223, 187, 151, 115},
-             {116, 152, 188, 224, 260, 296, 260, 224, 188, 152, 116}, allAbove);
-  EXPECT_THAT(Texts(), UnorderedElementsAre("35,1 9 T17", "400,1 9 T18", "450,1 9 T20",                          //
-                                            "5,20 9+ 2", "35,20 9 1 x", "400,20 9 2,8%", "450,20 9 2,8%",        //
-                                            "5,40 9+ 3", "35,40 9 2 x", "400,40 9 5,6%", "450,40 9 5,6%",        //
-                                            "5,60 9+ 4", "35,60 9 3 x", "400,60 9 8,3%", "450,60 9 8,3%",        //
-                                            "5,80 9+ 5", "35,80 9 4 x", "400,80 9 11,1%", "450,80 9 11,1%",      //
-                                            "5,100 9+ 6", "35,100 9 5 x", "400,100 9 13,9%", "450,100 9 13,9%",  //
-                                            "5,120 9+ 7", "35,120 9 6 x", "400,120 9 16,7%", "450,120 9 16,7%",  //
-                                            "5,140 9+ 8", "35,140 9 5 x", "400,140 9 13,9%", "450,140 9 13,9%",  //
-                                            "5,160 9+ 9", "35,160 9 4 x", "400,160 9 11,1%", "450,160 9 11,1%",  //
-                                            "5,180 9+ 10", "35,180 9 3 x", "400,180 9 8,3%", "450,180 9 8,3%",   //
-                                            "5,200 9+ 11", "35,200 9 2 x", "400,200 9 5,6%", "450,200 9 5,6%",   //
-                                            "5,220 9+ 12", "35,220 9 1 x", "400,220 9 2,8%", "450,220 9 2,8%",   //
-                                            "545,1 9 T19", "570,1 9 T18",                                        //
-                                            "545,43 8 6", "570,43 8 16%", "505,20 8+ (P)", "530,20 8 T21",       //
-                                            "545,86 8 6", "570,86 8 16%", "505,63 8+ (H)", "530,63 8 T22",       //
-                                            "545,129 8 5", "570,129 8 13%", "505,106 8+ (W)", "530,106 8 T23",   //
-                                            "545,172 8 19", "570,172 8 52%", "505,149 8+ (Ö)", "530,149 8 T24",  //
-                                            "503,195 8 T26", "520,205 20+ 36x"));
-  EXPECT_THAT(Steps<PictureStep>(),
-              ElementsAre(PictureStep{506, 33, {"imlW/13.svg"}}, PictureStep{506, 75, {"imlW/14.svg"}},
-                          PictureStep{506, 119, {"imlW/15.svg"}}, PictureStep{506, 162, {"imlW/16.svg"}}));
-  const auto lines = Steps<LineStep>();
-  ASSERT_EQ(lines.size(), 18U);
-  const std::vector<LineStep> last{lines.end() - 3, lines.end()};
-  EXPECT_THAT(last, ElementsAre(LineStep{501, 147, 599, 147, kGrey}, LineStep{500, 148, 600, 148, kBlack},
-                                LineStep{501, 149, 599, 149, kGrey}));
-  EXPECT_EQ(lines[10], (LineStep{500, 62, 600, 62, kBlack}));
-  EXPECT_EQ(lines[13], (LineStep{500, 105, 600, 105, kBlack}));
+             {116, 152, 188, 224, 260, 296, 260, 224, 188, 152, 116}, 0);
+  EXPECT_THAT(drawn, IsSupersetOf(Grey({"5,20 '2' 9+",     "35,20 '1 x' 9",     "400,20 '2,8%' 9",  "450,20 '2,8%' 9",
+                                        "35,120 '6 x' 9",  "400,120 '16,7%' 9", "545,1 'T19' 9",    "570,1 'T18' 9",
+                                        "545,43 '6' 8",    "570,43 '16%' 8",    "505,20 '(P)' 8+",  "530,20 'T21' 8",
+                                        "545,86 '6' 8",    "570,86 '16%' 8",    "505,63 '(H)' 8+",  "530,63 'T22' 8",
+                                        "545,129 '5' 8",   "570,129 '13%' 8",   "505,106 '(W)' 8+", "530,106 'T23' 8",
+                                        "545,172 '19' 8",  "570,172 '52%' 8",   "505,149 '(Ö)' 8+", "530,149 'T24' 8",
+                                        "503,195 'T26' 8", "520,205 '36x' 20+"})));
+  EXPECT_THAT(drawn, IsSupersetOf({"506,33 imlW/13.svg", "506,75 imlW/14.svg", "506,119 imlW/15.svg",
+                                   "506,162 imlW/16.svg", "500,62-600,62 000000", "500,105-600,105 000000",
+                                   "501,147-599,147 999999", "500,148-600,148 000000", "501,149-599,149 999999"}));
 }
 
-TEST_F(DiceChartTest, CountOf500AndNoCountStayInTheirPlaces) {
-  std::array<int, 11> foot;
-  foot.fill(80);
+TEST_F(DiceChartTest, CountsFromNoneTo500KeepTheirPlacesInBothContrasts) {
   game.GameType = core::kFirstExpansion;
   game.EventCount[4] = 500;
-  Draw();
-  EXPECT_THAT(Texts(), IsSupersetOf({"400,40 9 0%", "570,172 8 0%", "530,205 20+ 0x"}));
+  EXPECT_THAT(Chart(133), IsSupersetOf(Grey({"400,40 '0%' 9", "570,172 '0%' 8", "530,205 '0x' 20+"})));
   game.DiceCount[3] = 500;
-  Draw();
-  ExpectBars(foot, foot, {kRed, kGreen, kRed, kRed, kRed, kRed, kRed, kRed, kRed, kRed, kRed});
-  EXPECT_THAT(Texts(), IsSupersetOf({"35,40 9 500 x", "400,40 9 100,0%", "570,172 8 100%", "520,205 20+ 500x"}));
-}
-
-TEST_F(DiceChartTest, TenthRollMovesTheTotalAndContrastChangesTheBars) {
+  EXPECT_THAT(Chart(133),
+              IsSupersetOf(Grey({"35,40 '500 x' 9", "400,40 '100,0%' 9", "570,172 '100%' 8", "520,205 '500x' 20+"})));
+  Ends foot;
+  foot.fill(80);
+  ExpectBars(foot, foot, 3);
   state.settings.Contrast = core::kOff;
-  game.DiceCount[7] = 9;
-  Draw();
-  EXPECT_THAT(Texts(), testing::Contains("530,205 20+ 9x"));
-  EXPECT_EQ(Steps<BoxStep>()[2].Ink, (Colour{0xFF, 0x45, 0x00}));
-  EXPECT_EQ(Steps<BoxStep>()[22].Ink, (Colour{0x22, 0x8B, 0x22}));
-  game.DiceCount[7] = 10;
-  Draw();
-  EXPECT_THAT(Texts(), testing::Contains("520,205 20+ 10x"));
+  game.DiceCount[3] = 9;
+  EXPECT_THAT(Chart(133), IsSupersetOf({"530,205 '9x' 20+ E8E8E8", "[80,22-80,33] FF4500", "[80,42-377,53] 228B22"}));
+  game.DiceCount[3] = 10;
+  EXPECT_THAT(Chart(133), testing::Contains("520,205 '10x' 20+ E8E8E8"));
 }
 
 TEST_F(DiceChartTest, LastSixRunFromNewToOldWithTheMarksOfTheirGame) {
-  struct Case {
-    const char* What;
-    std::int16_t GameType, Total;
-    std::vector<TextStep> Behind;  // the label
-  };
-  const Font font{"Verdana", 9, true};
-  const auto at = [&font](double x, const char* text, Colour ink = kText) { return TextStep{x, 1, text, ink, font}; };
-  const Case cases[] = {
-      {"no rolls", 2, 0, {}},
-      {"two rolls", 2, 2, {at(220, "3"), at(150, "5")}},
-      {"seven rolls", 2, 7, {at(500, "5"), at(430, "7"), at(360, "9"), at(290, "11"), at(220, "12"), at(150, "10")}},
-      {"marks",
-       3,
+  // Kind of game, rolls, what stands behind the label.
+  const std::tuple<std::int16_t, std::int16_t, Lines> cases[] = {
+      {2, 2, Grey({"220,1 '3' 9+", "150,1 '5' 9+"})},
+      {2, 6, Grey({"500,1 '3' 9+", "430,1 '5' 9+", "360,1 '7' 9+", "290,1 '9' 9+", "220,1 '11' 9+", "150,1 '12' 9+"})},
+      {3,
        5,
-       {at(415, "3"), at(435, "(2)", {0x1E, 0x90, 0xFF}), at(345, "5"), at(365, "(3)", {255, 255, 0}), at(275, "7"),
-        at(295, "(4)", {0, 150, 0}), at(205, "9"), at(225, "(B)"), at(135, "11")}},
-      {"more rolls than entries", 3, 600, {}},
-      {"negative total", 3, -3, {}},
-  };
-  game.DiceLog[1] = {1, 2, 1};
-  game.DiceLog[2] = {2, 3, 2};
-  game.DiceLog[3] = {3, 4, 3};
-  game.DiceLog[4] = {4, 5, 4};
-  game.DiceLog[5] = {5, 6, 0};
-  game.DiceLog[6] = {6, 6, 30000};
-  game.DiceLog[7] = {4, 6, -1};
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.What);
-    game.GameType = c.GameType;
-    game.TotalRolls = c.Total;
+       {"415,1 '3' 9+ E8E8E8", "435,1 '(2)' 9+ 1E90FF", "345,1 '5' 9+ E8E8E8", "365,1 '(3)' 9+ FFFF00",
+        "275,1 '7' 9+ E8E8E8", "295,1 '(4)' 9+ 009600", "205,1 '9' 9+ E8E8E8", "225,1 '(B)' 9+ E8E8E8",
+        "135,1 '11' 9+ E8E8E8"}},
+      {3, 600, {}},
+      {3, -3, {}}};
+  const core::TRoll rolls[] = {{}, {1, 2, 1}, {2, 3, 2}, {3, 4, 3}, {4, 5, 4}, {5, 6, 5}, {6, 6, 0}};
+  std::copy(std::begin(rolls), std::end(rolls), game.DiceLog.begin());
+  for (const auto& [gameType, total, behind] : cases) {
+    game.GameType = gameType;
+    game.TotalRolls = total;
     mainwindow::DrawLastSix(state, chart);
-    std::vector<TextStep> expected = c.Behind;
-    expected.insert(expected.begin(), at(5, "T25"));
-    EXPECT_EQ(Steps<TextStep>(), expected);
+    Lines expected{"5,1 'T25' 9+ E8E8E8"};
+    expected.insert(expected.end(), behind.begin(), behind.end());
+    EXPECT_EQ(Drawn(chart), expected) << total << " rolls";
   }
 }
 

@@ -3,61 +3,42 @@
 
 #include <gtest/gtest.h>
 
-#include <vector>
+#include <sstream>
 
 namespace tests {
 namespace {
 
 using platform::KeyTracker;
 
-enum class Does { Press, Release, PressMarked, ReleaseMarked, StillReleased };
-
-struct Step {
-  Does What;
-  int At;              ///< milliseconds; of `StillReleased`: the time of the release that waits
-  char Outcome = 'y';  ///< 'c'ounts, 'w'aits, 'r'epeat; of `StillReleased`: 'y'es or 'n'o
-};
-
-char Play(KeyTracker& keys, const Step& step) {
-  const KeyTracker::Time at(step.At);
-  const bool marked = step.What == Does::PressMarked || step.What == Does::ReleaseMarked;
-  if (step.What == Does::StillReleased) return keys.Expired('A', at) ? 'y' : 'n';
-  const bool press = step.What == Does::Press || step.What == Does::PressMarked;
-  const auto verdict = press ? keys.Press('A', at, marked) : keys.Release('A', at, marked);
-  return verdict == KeyTracker::Verdict::Counts ? 'c' : verdict == KeyTracker::Verdict::Waits ? 'w' : 'r';
+/// What becomes of a step: "counts", "waits" or "repeat"; of a wait that is over, whether the release stands, "yes" or
+/// "no". Marked steps have an "m" behind their word.
+std::string Outcome(KeyTracker& keys, const std::string& step, KeyTracker::Time at) {
+  if (step == "over") return keys.Expired('A', at) ? "yes" : "no";
+  const bool marked = step.back() == 'm';
+  const auto verdict = step.starts_with("press") ? keys.Press('A', at, marked) : keys.Release('A', at, marked);
+  return verdict == KeyTracker::Verdict::Counts ? "counts" : verdict == KeyTracker::Verdict::Waits ? "waits" : "repeat";
 }
 
+/// Each story is a row of steps, their milliseconds and outcomes; "over" has the time of the release that waits.
 TEST(KeyTrackerTest, TellsRepeatsFromStrokes) {
-  using enum Does;
-  const std::pair<const char*, std::vector<Step>> stories[] = {
-      {"typed twice", {{Press, 0, 'c'}, {Release, 80, 'c'}, {Press, 90, 'c'}, {Release, 149, 'c'}}},
-      {"held, never repeated",
-       {{Press, 0, 'c'}, {Release, 150, 'w'}, {StillReleased, 150}, {StillReleased, 150, 'n'}, {Press, 180, 'c'}}},
+  const std::pair<const char*, const char*> stories[] = {
+      {"typed twice", "press 0 counts release 80 counts press 90 counts release 149 counts"},
+      {"held, never repeated", "press 0 counts release 150 waits over 150 yes over 150 no press 180 counts"},
       {"repeats without marks",
-       {{Press, 0, 'c'},
-        {Release, 500, 'w'},
-        {Press, 500, 'r'},
-        {StillReleased, 500, 'n'},
-        {Release, 530, 'w'},
-        {Press, 531, 'r'},
-        {Release, 560, 'w'},
-        {StillReleased, 530, 'n'},
-        {StillReleased, 560}}},
-      {"marked repeats",
-       {{Press, 0, 'c'},
-        {ReleaseMarked, 500, 'r'},
-        {PressMarked, 500, 'r'},
-        {Release, 600, 'w'},
-        {StillReleased, 600}}},
+       "press 0 counts release 500 waits press 500 repeat over 500 no release 530 waits press 531 repeat "
+       "release 560 waits over 530 no over 560 yes"},
+      {"marked repeats", "press 0 counts release-m 500 repeat press-m 500 repeat release 600 waits over 600 yes"},
       {"release of a repeat marked, its press not",
-       {{Press, 0, 'c'}, {ReleaseMarked, 500, 'r'}, {Press, 500, 'r'}, {Release, 600, 'w'}, {StillReleased, 600}}},
-      {"second stroke marked wrongly",
-       {{Press, 0, 'c'}, {ReleaseMarked, 1, 'c'}, {PressMarked, 1, 'c'}, {Release, 2, 'c'}}},
-      {"held since before the window had the keyboard", {{PressMarked, 0, 'r'}}},
-  };
-  for (const auto& [what, steps] : stories) {
+       "press 0 counts release-m 500 repeat press 500 repeat release 600 waits over 600 yes"},
+      {"second stroke marked wrongly", "press 0 counts release-m 1 counts press-m 1 counts release 2 counts"},
+      {"held since before the window had the keyboard", "press-m 0 repeat"}};
+  for (const auto& [what, story] : stories) {
     KeyTracker keys;
-    for (const Step& step : steps) EXPECT_EQ(Play(keys, step), step.Outcome) << what << " at " << step.At;
+    std::istringstream steps(story);
+    std::string step, outcome;
+    for (int at = 0; steps >> step >> at >> outcome;) {
+      EXPECT_EQ(Outcome(keys, step, KeyTracker::Time(at)), outcome) << what << ": " << step << " at " << at;
+    }
   }
 }
 

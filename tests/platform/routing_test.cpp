@@ -44,29 +44,27 @@ struct TestForm : Form {
 
 class RoutingTest : public testing::Test {
  protected:
-  void UseEverything() {
+  std::vector<std::string> LogOfKey(KeyCode code) {
     form.Log.clear();
-    Key(form, 'A');
+    Key(form, code);
+    return form.Log;
+  }
+  std::vector<std::string> LogOfEverything() {
+    LogOfKey('A');
     Key(form, 'N', {.Control = true});
     form.ClickMenu((*form.MenuBar)["mnuNew"]);
-    Click(form.cmdOK);
-    Click(form.pic);
-    Click(form.cbx);
+    for (Control* control : std::vector<Control*>{&form.cmdOK, &form.pic, &form.cbx}) Click(*control);
     form.Type(form.txt, form.txt.Text.Get() + "x");
     form.PressCloseBox();
+    return form.Log;
   }
   Desktop desktop;
-  TestForm form{desktop};
-  TestForm other{desktop};
+  TestForm form{desktop}, other{desktop};
 };
 
-TEST_F(RoutingTest, OnlyAShownFreeFormTakesInput) {
+TEST_F(RoutingTest, OnlyAShownFreeFormTakesInputForWhatCanBeUsed) {
   form.KeyPreview = true;
   other.Visible = false;
-  const auto freeForm = ElementsAre("form 65", "field 65", "menu", "form 78", "field 78", "menu", "ok", "mouse",
-                                    "check", "text", "close");
-  UseEverything();
-  EXPECT_THAT(form.Log, freeForm);
   const std::pair<const char*, std::function<void(bool)>> locks[] = {
       {"hidden", [this](bool lock) { form.Visible = !lock; }},
       {"disabled", [this](bool lock) { form.Enabled = !lock; }},
@@ -74,24 +72,14 @@ TEST_F(RoutingTest, OnlyAShownFreeFormTakesInput) {
   for (const auto& [what, lock] : locks) {
     SCOPED_TRACE(what);
     lock(true);
-    UseEverything();
-    EXPECT_THAT(form.Log, IsEmpty());
+    EXPECT_THAT(LogOfEverything(), IsEmpty());
     lock(false);
     form.SetFocus(form.txt);
-    UseEverything();
-    EXPECT_THAT(form.Log, freeForm);
+    EXPECT_THAT(LogOfEverything(), ElementsAre("form 65", "field 65", "menu", "form 78", "field 78", "menu", "ok",
+                                               "mouse", "check", "text", "close"));
   }
-}
-
-TEST_F(RoutingTest, ControlThatCannotBeUsedTakesNoClick) {
-  form.cmdOK.Enabled = false;
-  form.pic.Visible = false;
-  form.frame.Enabled = false;
-  for (Control* control :
-       {static_cast<Control*>(&form.cmdOK), static_cast<Control*>(&form.pic), static_cast<Control*>(&form.cbx)}) {
-    Click(*control);
-  }
-  EXPECT_THAT(form.Log, IsEmpty());
+  form.cmdOK.Enabled = form.frame.Enabled = form.pic.Visible = form.txt.Visible = false;
+  EXPECT_THAT(LogOfEverything(), ElementsAre("form 65", "menu", "form 78", "menu", "close"));
 }
 
 TEST_F(RoutingTest, ReleaseCountsOnceAndOnlyWhereItsPressWasSeen) {
@@ -102,62 +90,54 @@ TEST_F(RoutingTest, ReleaseCountsOnceAndOnlyWhereItsPressWasSeen) {
   form.KeyRelease('B', {});
   EXPECT_THAT(form.Log, IsEmpty());
   for (int i = 0; i < 3; ++i) form.KeyPress('C', {});
-  form.KeyRelease('C', {});
-  form.KeyRelease('C', {});
-  EXPECT_THAT(form.Log, ElementsAre("field 67"));
-  form.KeyPress('N', {.Control = true});
-  form.KeyPress('N', {.Control = true});
+  for (int i = 0; i < 2; ++i) form.KeyRelease('C', {});
+  for (int i = 0; i < 2; ++i) form.KeyPress('N', {.Control = true});
   EXPECT_THAT(form.Log, ElementsAre("field 67", "menu"));
 }
 
-TEST_F(RoutingTest, FormThatClosesOnAKeyKeepsItFromTheFocus) {
+TEST_F(RoutingTest, FormThatClosesOnAReleaseKeepsItFromTheFocusAndLeavesTheNextFormOnlyTheKeysPressedLater) {
   form.KeyPreview = true;
-  form.KeyUp = [this](KeyCode, Modifiers) { form.Visible = false; };
-  Key(form, 'A');
+  form.KeyUp = [this](KeyCode, Modifiers) { form.Visible = false; };  // the other one is in front then
+  for (const KeyCode code : {'A', 'B', 'C'}) form.KeyPress(code, {});
+  form.KeyRelease('B', {});
+  for (const KeyCode code : {'A', 'C'}) desktop.KeyReceiver(form)->KeyRelease(code, {});
   EXPECT_THAT(form.Log, IsEmpty());
+  EXPECT_THAT(other.Log, ElementsAre("field 67"));
 }
 
 TEST_F(RoutingTest, EnterEscAndSpacePressButtons) {
-  struct Case {
-    KeyCode Code;
-    bool Preview, OnCancel, OkEnabled;  ///< whether the focus stands on cmdCancel, else on the text field
-    std::vector<std::string> Log;
+  const auto logOf = [this](KeyCode code, bool preview, Control& focus) {
+    form.KeyPreview = preview;
+    form.SetFocus(focus);
+    return LogOfKey(code);
   };
-  const Case cases[] = {
-      {kKeyEnter, false, false, true, {"ok"}},     {kKeyEnter, false, false, false, {"field 13"}},
-      {kKeyEnter, false, true, true, {"cancel"}},  {kKeyEnter, true, true, true, {"ok"}},
-      {kKeyEnter, true, true, false, {"form 13"}}, {kKeyEscape, false, false, true, {"cancel"}},
-      {kKeyEscape, true, false, true, {"cancel"}}, {kKeySpace, false, true, true, {"cancel"}},
-      {kKeySpace, true, true, true, {"form 32"}},  {kKeySpace, true, false, true, {"form 32", "field 32"}}};
-  for (const Case& c : cases) {
-    SCOPED_TRACE(testing::Message() << "key " << c.Code << ", preview " << c.Preview << ", on cancel " << c.OnCancel);
-    form.Log.clear();
-    form.KeyPreview = c.Preview;
-    form.cmdOK.Enabled = c.OkEnabled;
-    form.SetFocus(c.OnCancel ? static_cast<Control&>(form.cmdCancel) : form.txt);
-    Key(form, c.Code);
-    EXPECT_EQ(form.Log, c.Log);
-  }
-  form.Log.clear();
+  EXPECT_THAT(logOf(kKeyEnter, false, form.txt), ElementsAre("ok"));
+  EXPECT_THAT(logOf(kKeyEnter, false, form.cmdCancel), ElementsAre("cancel"));
+  EXPECT_THAT(logOf(kKeyEnter, true, form.cmdCancel), ElementsAre("ok"));
+  EXPECT_THAT(logOf(kKeyEscape, false, form.txt), ElementsAre("cancel"));
+  EXPECT_THAT(logOf(kKeySpace, false, form.cmdCancel), ElementsAre("cancel"));
+  EXPECT_THAT(logOf(kKeySpace, true, form.cmdCancel), ElementsAre("form 32"));
+  EXPECT_THAT(logOf(kKeySpace, true, form.txt), ElementsAre("form 32", "field 32"));
+  form.cmdOK.Enabled = false;
+  EXPECT_THAT(LogOfKey(kKeyEnter), ElementsAre("form 13", "field 13"));
   form.cmdCancel.Enabled = false;
-  Key(form, kKeyEscape);
-  EXPECT_THAT(form.Log, ElementsAre("form 27", "field 27"));
+  EXPECT_THAT(LogOfKey(kKeyEscape), ElementsAre("form 27", "field 27"));
 }
 
 TEST_F(RoutingTest, TabWalksOverWhatCanBeUsed) {
   const auto walk = [this](Modifiers with) {
-    std::vector<std::string> names{form.Focus()->Name};
+    std::string names = form.Focus()->Name;
     for (int i = 0; i < 4; ++i) {
       Key(form, kKeyTab, with);
-      names.push_back(form.Focus()->Name);
+      names += " " + form.Focus()->Name;
     }
     return names;
   };
-  EXPECT_THAT(walk({}), ElementsAre("txt", "cbx", "cmdOK", "cmdCancel", "txt"));
-  EXPECT_THAT(walk({.Shift = true}), ElementsAre("txt", "cmdCancel", "cmdOK", "cbx", "txt"));
+  EXPECT_EQ(walk({}), "txt cbx cmdOK cmdCancel txt");
+  EXPECT_EQ(walk({.Shift = true}), "txt cmdCancel cmdOK cbx txt");
   form.frame.Visible = false;
   form.cmdCancel.Enabled = false;
-  EXPECT_THAT(walk({}), ElementsAre("txt", "cmdOK", "txt", "cmdOK", "txt"));
+  EXPECT_EQ(walk({}), "txt cmdOK txt cmdOK txt");
   form.txt.Enabled = false;
   EXPECT_EQ(form.Focus(), &form.cmdOK);
 }
@@ -175,6 +155,9 @@ TEST_F(RoutingTest, KeysForTheLockedWindowGoToTheFormShownJustNow) {
   other.Visible = true;
   other.Visible = false;
   EXPECT_EQ(desktop.KeyReceiver(form), nullptr) << "it is gone again";
+  form.Enabled = true;
+  desktop.Activated(form);
+  EXPECT_EQ(desktop.KeyReceiver(other), &form) << "a hidden window's keys are those of the form in front";
 }
 
 }  // namespace

@@ -16,15 +16,12 @@ using Lines = std::vector<std::string>;
 using storage::GameFileOutcome;
 using testing::ElementsAre;
 
-constexpr std::size_t kBackgroundLines = 1586;  // read when the background is chosen
-const Lines kTheDieShown = {"background", "event die"};
+constexpr int kBackgroundLines = 1586;  // read when the background is chosen
 
 Lines LinesOf(const core::State& state) {
   Lines lines;
-  const std::string bytes = storage::GameFileText(state);
-  for (std::size_t at = 0, end = 0; (end = bytes.find("\r\n", at)) != std::string::npos; at = end + 2) {
-    lines.push_back(bytes.substr(at, end - at));
-  }
+  std::istringstream file(storage::GameFileText(state));
+  for (std::string line; std::getline(file, line, '\r'); file.ignore()) lines.push_back(line);
   return lines;
 }
 
@@ -35,10 +32,9 @@ std::string BytesOf(const Lines& lines) {
 }
 
 /// The first lines of one file and the rest of another.
-Lines Mixed(const Lines& first, std::size_t count, const Lines& rest) {
-  Lines mixed(first.begin(), first.begin() + static_cast<std::ptrdiff_t>(count));
-  mixed.insert(mixed.end(), rest.begin() + static_cast<std::ptrdiff_t>(count), rest.end());
-  return mixed;
+Lines Mixed(Lines first, int count, const Lines& rest) {
+  std::copy(rest.begin() + count, rest.end(), first.begin() + count);
+  return first;
 }
 
 /// The game as a file of the version holds it.
@@ -46,7 +42,7 @@ Lines FileOf(const std::string& version, const core::State& state) {
   Lines lines = LinesOf(state);
   lines[0] = version;
   if (version == "OBGV30") lines.pop_back();
-  if (version == "OBGV31" || version == "OBGV30") return lines;
+  if (version >= "OBGV30") return lines;
   const std::string gameType = lines[1583], winPoints = lines[1587];
   lines.resize(83);
   lines.push_back(gameType);
@@ -60,24 +56,25 @@ class GameFileTest : public testing::Test, public storage::GameFileEvents {
   GameFileOutcome Read(const std::string& bytes) {
     std::istringstream file(bytes);
     Events.clear();
-    AtBackground.clear();
     State = Before;
     return storage::ReadGame(file, State, *this);
+  }
+  /// How many of the first seats are marked as playing in the saved game.
+  int SavedPlayers(int seats = core::kSeats) {
+    const auto first = Saved.game.Players.begin() + 1;
+    return static_cast<int>(std::ranges::count(first, first + seats, true, &core::TPlayer::Active));
   }
   void TellNotAGameFile() override { Events.push_back("no game"); }
   void TellOlderVersion() override { Events.push_back("older"); }
   void ShowEventDie() override { Events.push_back("event die"); }
   bool ChooseBackground() override {
     Events.push_back("background");
-    AtBackground = LinesOf(State);
     return HasBackground;
   }
 
   RandomState Random{2024};
-  core::State Before = Random.Next();
-  core::State Saved = Random.Next();
-  core::State State;
-  Lines Events, AtBackground;
+  core::State Before = Random.Next(), Saved = Random.Next(), State;
+  Lines Events;
   bool HasBackground = true;
 };
 
@@ -87,63 +84,49 @@ TEST_F(GameFileTest, LinesAreWrittenAsTheLayoutSays) {
   state.game.DiceCount[1] = 5;
   state.game.EventCount[4] = -5;
   state.game.DiceLog[500] = {1, 2, 3};
-  state.game.GameType = 3;
+  state.game.GameType = 4;
   state.game.GameTitle = "a\rb";
   state.game.Clock = {32767, 9};
   const Lines lines = LinesOf(state);
   ASSERT_EQ(lines.size(), 1591U);
-  EXPECT_THAT(Lines(lines.begin(), lines.begin() + 13),
-              ElementsAre("OBGV31", "J\xFCrgen \x80", "3", "-2", "True", "False", "False", "False", "False", "7",
-                          "False", "True", ""));
+  EXPECT_EQ(BytesOf({lines.begin(), lines.begin() + 13}),
+            BytesOf({"OBGV31", "J\xFCrgen \x80", "3", "-2", "True", "False", "False", "False", "False", "7", "False",
+                     "True", ""}));
   EXPECT_THAT(Lines(lines.begin() + 67, lines.begin() + 69), ElementsAre(" 5 ", " 0 "));
-  EXPECT_THAT(Lines(lines.begin() + 81, lines.begin() + 84), ElementsAre(" 0 ", "-5 ", "0"));
+  EXPECT_THAT(Lines(lines.begin() + 82, lines.begin() + 84), ElementsAre("-5 ", "0"));
   EXPECT_THAT(Lines(lines.begin() + 1580, lines.end()),
-              ElementsAre("1", "2", "3", "3", "0", "0", "0", "0", "a b", "", "32767"));
+              ElementsAre("1", "2", "3", "4", "0", "0", "0", "0", "a b", "", "32767"));
 }
 
 TEST_F(GameFileTest, EveryVersionSetsWhatItHoldsAndLeavesTheRest) {
-  struct Case {
-    const char* Version;
-    std::size_t Lines;
-    bool Log, WinPoints, Clock;
-  };
-  const Case cases[] = {{"OBGV31", 1591, true, true, true},
-                        {"OBGV30", 1590, true, true, false},
-                        {"OBGV24", 105, false, true, false},
-                        {"OBGV21", 102, false, false, false}};
-  for (const Case& c : cases) {
-    for (const std::int16_t gameType : std::initializer_list<std::int16_t>{2, 3, 99}) {
-      SCOPED_TRACE(c.Version + std::to_string(gameType));
-      Saved.game.GameType = gameType;
-      const Lines saved = LinesOf(Saved), file = FileOf(c.Version, Saved);
-      Lines expected = c.Log ? saved : Mixed(saved, 83, LinesOf(Before));
+  for (const std::string version : {"OBGV31", "OBGV30", "OBGV24", "OBGV21"}) {
+    for (const int gameType : {2, 3, 99}) {
+      SCOPED_TRACE(version + " of kind " + std::to_string(gameType));
+      Saved.game.GameType = static_cast<std::int16_t>(gameType);
+      const Lines saved = LinesOf(Saved), before = LinesOf(Before), file = FileOf(version, Saved);
+      const bool withLog = version >= "OBGV30";
+      Lines expected = withLog ? saved : Mixed(saved, 83, before);
       expected[1583] = std::to_string(gameType);
-      const int usual = gameType == 2 ? 10 : gameType == 3 ? 13 : Before.game.WinPoints;
-      expected[1587] = std::to_string(c.WinPoints ? Saved.game.WinPoints : usual);
-      if (c.Log && !c.Clock) expected[1590] = "0";
-      ASSERT_EQ(file.size(), c.Lines);
+      const std::string usualWinPoints = gameType == 2 ? "10" : gameType == 3 ? "13" : before[1587];
+      expected[1587] = version == "OBGV21" ? usualWinPoints : saved[1587];
+      if (version == "OBGV30") expected[1590] = "0";
       EXPECT_EQ(Read(BytesOf(file) + "more\r\n"), GameFileOutcome::Whole);
       EXPECT_EQ(LinesOf(State), expected);
-      EXPECT_EQ(Events, c.Log ? kTheDieShown : Lines({"older", "event die"}));
-      EXPECT_EQ(State.game.Clock[1], c.Log ? 0 : Before.game.Clock[1]);
-      EXPECT_EQ(State.game.NumPlayers, std::ranges::count(Saved.game.Players.begin() + 1, Saved.game.Players.end(),
-                                                          true, &core::TPlayer::Active));
-      EXPECT_EQ(State.game.FileVersion, c.Version);
-      EXPECT_EQ(AtBackground, c.Log ? Mixed(saved, kBackgroundLines, LinesOf(Before)) : Lines());
-      EXPECT_EQ(State.game.LegacyRolls[5], c.Log ? core::TRoll() : core::TRoll({16, 17, 18}));
-      for (std::size_t kept = 1; kept < c.Lines; kept += kept < 110 ? 1 : 29) {
-        EXPECT_EQ(Read(BytesOf({file.begin(), file.begin() + static_cast<std::ptrdiff_t>(kept)})),
-                  GameFileOutcome::Stopped)
-            << kept;
+      EXPECT_EQ(Events, withLog ? Lines({"background", "event die"}) : Lines({"older", "event die"}));
+      EXPECT_EQ(State.game.Clock[1], withLog ? 0 : Before.game.Clock[1]);
+      EXPECT_EQ(State.game.NumPlayers, SavedPlayers());
+      EXPECT_EQ(State.game.FileVersion, version);
+      EXPECT_EQ(State.game.LegacyRolls[5], withLog ? core::TRoll() : core::TRoll({16, 17, 18}));
+      for (auto end = file.begin() + 1; end < file.end(); end += end - file.begin() < 110 ? 1 : 29) {
+        EXPECT_EQ(Read(BytesOf({file.begin(), end})), GameFileOutcome::Stopped) << end - file.begin();
       }
     }
   }
 }
 
 TEST_F(GameFileTest, WhatWasWrittenIsReadByteForByte) {
-  for (int game = 0; game < 100; ++game) {
-    Saved = Random.Next();
-    const std::string bytes = storage::GameFileText(Saved);
+  for (int game = 0; game < 30; ++game) {
+    const std::string bytes = storage::GameFileText(Random.Next());
     ASSERT_EQ(Read(bytes), GameFileOutcome::Whole);
     ASSERT_EQ(storage::GameFileText(State), bytes);
   }
@@ -152,29 +135,18 @@ TEST_F(GameFileTest, WhatWasWrittenIsReadByteForByte) {
 TEST_F(GameFileTest, ALoadStopsAtTheFirstFaultAndWhatWasReadStays) {
   const Lines numberFaults = {"", " ", "x", "1 2", "32768", "-32769", "32767.5", "1.2.3", "--1", "1E2", "True", "."};
   const Lines flagFaults = {"", "yes", "True ", "Tru", "1x"};
-  const struct {
-    std::size_t Line;
-    const Lines& Faults;
-    std::ptrdiff_t Players;  // seats whose flag was read
-  } cases[] = {{3, numberFaults, 0},    {4, numberFaults, 0},    {5, flagFaults, 0},      {10, numberFaults, 0},
-               {11, flagFaults, 0},     {12, flagFaults, 0},     {67, flagFaults, 5},     {68, numberFaults, 6},
-               {79, numberFaults, 6},   {80, numberFaults, 6},   {84, numberFaults, 6},   {1583, numberFaults, 6},
-               {1584, numberFaults, 6}, {1585, numberFaults, 6}, {1586, numberFaults, 6}, {1587, numberFaults, 6},
-               {1588, numberFaults, 6}, {1591, numberFaults, 6}};
   const Lines saved = LinesOf(Saved);
-  for (const auto& c : cases) {
-    for (const std::string& fault : c.Faults) {
-      SCOPED_TRACE(std::to_string(c.Line) + ": \"" + fault + "\"");
-      Lines file = saved;
-      file[c.Line - 1] = fault;
-      Lines expected = Mixed(saved, c.Line - 1, LinesOf(Before));
-      if (c.Line == 1591) expected.back() = "0";
+  for (const int line : {3, 5, 10, 11, 12, 67, 68, 79, 80, 84, 1583, 1584, 1585, 1586, 1587, 1588, 1591}) {
+    const std::string& right = saved[static_cast<std::size_t>(line) - 1];
+    for (const std::string& fault : right == "True" || right == "False" ? flagFaults : numberFaults) {
+      SCOPED_TRACE(std::to_string(line) + ": \"" + fault + "\"");
+      Lines file = saved, expected = Mixed(saved, line - 1, LinesOf(Before));
+      file[static_cast<std::size_t>(line) - 1] = fault;
+      if (line == 1591) expected.back() = "0";
       EXPECT_EQ(Read(BytesOf(file)), GameFileOutcome::Stopped);
       EXPECT_EQ(LinesOf(State), expected);
-      EXPECT_EQ(Events, c.Line > kBackgroundLines ? Lines{"background"} : Lines{});
-      EXPECT_EQ(State.game.NumPlayers,
-                std::ranges::count(Saved.game.Players.begin() + 1, Saved.game.Players.begin() + 1 + c.Players, true,
-                                   &core::TPlayer::Active));
+      EXPECT_EQ(Events, line > kBackgroundLines ? Lines{"background"} : Lines{});
+      EXPECT_EQ(State.game.NumPlayers, SavedPlayers(std::min((line - 2) / 11, 6)));  // 11 lines for each seat
     }
   }
 }
@@ -183,33 +155,27 @@ TEST_F(GameFileTest, ABackgroundThatIsMissingStopsTheLoad) {
   HasBackground = false;
   EXPECT_EQ(Read(storage::GameFileText(Saved)), GameFileOutcome::Stopped);
   EXPECT_EQ(LinesOf(State), Mixed(LinesOf(Saved), kBackgroundLines, LinesOf(Before)));
-  EXPECT_EQ(State.game.Clock, Before.game.Clock);
 }
 
 TEST_F(GameFileTest, NumbersAndFlagsMayBeWrittenInOtherWays) {
-  const std::pair<const char*, int> numbers[] = {{" 7 ", 7}, {"+7", 7},    {"007", 7},         {"2.5", 2},
-                                                 {"3.5", 4}, {"-2,5", -2}, {"32767.4", 32767}, {"-32768.5", -32768}};
-  for (const auto& [line, number] : numbers) {
-    Lines file = LinesOf(Saved);
-    file[1587] = line;
-    EXPECT_EQ(Read(BytesOf(file)), GameFileOutcome::Whole) << line;
-    EXPECT_EQ(State.game.WinPoints, number) << line;
-  }
-  const std::pair<const char*, bool> flags[] = {{"true", true}, {"FALSE", false}, {"wahr", true},  {"Falsch", false},
-                                                {"-1", true},   {" 0 ", false},   {"70000", true}, {"0.4", true}};
-  for (const auto& [line, flag] : flags) {
-    Lines file = LinesOf(Saved);
-    file[4] = line;
-    EXPECT_EQ(Read(BytesOf(file)), GameFileOutcome::Whole) << line;
-    EXPECT_EQ(State.game.Players[1].LongestRoad, flag) << line;
+  using Pairs = std::vector<std::pair<std::string, std::string>>;  // as written, as understood
+  const Pairs numbers = {{" 7 ", "7"},   {"+7", "7"},          {"007", "7"},          {"2.5", "2"},
+                         {"-3,5", "-4"}, {"32767.4", "32767"}, {"-32768.5", "-32768"}};
+  const Pairs flags = {{"true", "True"}, {"FALSE", "False"}, {"wahr", "True"}, {"Falsch", "False"},
+                       {"-1", "True"},   {" 0 ", "False"},   {"0.4", "True"}};
+  for (const std::size_t line : {1587U, 4U}) {
+    for (const auto& [written, understood] : line == 4 ? flags : numbers) {
+      Lines file = LinesOf(Saved);
+      file[line] = written;
+      EXPECT_EQ(Read(BytesOf(file)), GameFileOutcome::Whole) << written;
+      EXPECT_EQ(LinesOf(State)[line], understood) << written;
+    }
   }
 }
 
 TEST_F(GameFileTest, WhatIsNoGameFileChangesNothing) {
-  const std::string rest = storage::GameFileText(Saved).substr(6);
-  for (const std::string& magic : {std::string("obgv31"), std::string("OBGV31 "), std::string(" OBGV31"),
-                                   std::string("OBGV22"), std::string("\xEF\xBB\xBFOBGV31"), std::string("OBGV31\n"),
-                                   std::string(), std::string(100'000, 'O'), std::string(3'000'000, 'O')}) {
+  const std::string rest = storage::GameFileText(Saved).substr(6), endless(3'000'000, 'O');
+  for (const std::string& magic : Lines{"obgv31", "OBGV31 ", "OBGV22", "\xEF\xBB\xBFOBGV31", "OBGV31\n", "", endless}) {
     EXPECT_EQ(Read(magic + rest), GameFileOutcome::NotAGame) << magic.substr(0, 10);
     EXPECT_EQ(LinesOf(State), LinesOf(Before));
     EXPECT_THAT(Events, ElementsAre("no game"));
@@ -220,10 +186,9 @@ TEST_F(GameFileTest, WhatIsNoGameFileChangesNothing) {
 
 TEST_F(GameFileTest, ALongNameIsReadAndAnEndlessOneIsAFault) {
   Saved.game.Players[1].Name = std::string(100'000, 'n');
-  EXPECT_EQ(Read(storage::GameFileText(Saved)), GameFileOutcome::Whole);
-  EXPECT_EQ(State.game.Players[1].Name, Saved.game.Players[1].Name);
   Saved.game.Players[2].Name = std::string(3'000'000, 'n');
   EXPECT_EQ(Read(storage::GameFileText(Saved)), GameFileOutcome::Stopped);
+  EXPECT_EQ(State.game.Players[1].Name, Saved.game.Players[1].Name);
   EXPECT_EQ(State.game.Players[2].Name, Before.game.Players[2].Name);
 }
 

@@ -1,97 +1,95 @@
-// Language files as people write them, whole and damaged.
+// Language files as people write them, whole and damaged, and the one that is shipped: its form and its access keys.
 #include "../../storage/language_file.h"
 
 #include <gmock/gmock.h>
 
+#include <fstream>
+#include <set>
+#include <span>
 #include <sstream>
 
 namespace tests {
 namespace {
 
-const std::string kMark = "#LANGUAGE\r\n";
-
-std::string Texts(const std::string& word, int count) {
-  std::string lines;
+/// A block whose text number n is the word and n.
+std::string Block(const std::string& name, const std::string& word, int count = 118) {
+  std::string lines = "#LANGUAGE\r\n" + name + "\r\n";
   for (int i = 1; i <= count; ++i) lines += word + std::to_string(i) + "\r\n";
   return lines;
 }
 
-/// A block whose text number n is the word and n.
-std::string Block(const std::string& name, const std::string& word, int count = 118) {
-  return kMark + name + "\r\n" + Texts(word, count);
-}
-
-struct Reading {
-  std::vector<std::string> Names;
-  int Count = 0;
-  core::Language Language;
-};
-
-/// Lists the languages, and loads one over old texts.
-Reading Read(const std::string& bytes, const std::string& chosen) {
-  Reading reading;
-  reading.Language.Languages.fill("old");
-  reading.Language.Languages[0] = chosen;
-  reading.Language.Text.fill("old");
-  std::istringstream list(bytes);
-  std::istringstream texts(bytes);
-  const int listed = storage::ListLanguages(list, reading.Language);
-  const auto first = reading.Language.Languages.begin() + 1;
-  reading.Names.assign(first, first + listed);
-  EXPECT_TRUE(listed == 10 || reading.Language.Languages.back().empty());
-  reading.Count = storage::LoadTexts(texts, reading.Language);
-  return reading;
+/// What is listed and in memory after the language "Wanted" was loaded over old texts:
+/// "Ours,Wanted,: 118 texts, b1 to b118".
+std::string Read(const std::string& bytes) {
+  core::Language language;
+  language.Languages.fill("old");
+  language.Languages[0] = "Wanted";
+  language.Text.fill("old");
+  std::istringstream list(bytes), texts(bytes);
+  storage::ListLanguages(list, language);
+  std::string found;
+  for (const std::string& name : std::span(language.Languages).subspan(1)) found += name.empty() ? "" : name + ",";
+  found += ": " + std::to_string(storage::LoadTexts(texts, language)) + " texts, ";
+  return found + language.Text[1] + " to " + language.Text[118];
 }
 
 TEST(LanguageFileTest, FindsBlocksAndTheirTexts) {
-  struct Case {
-    const char* What;
-    std::string Bytes;
-    std::vector<std::string> Names;
-    int Count;
-    const char *First, *Last;  // texts 1 and 118
-  };
-  const std::string ours = Block("Ours", "a"), wanted = Block("Wanted", "b");
-  const std::string likeName = kMark + "Ours\r\nWanted\r\n" + Texts("x", 118);
-  const Case cases[] = {
-      {"second block", ours + wanted, {"Ours", "Wanted"}, 118, "b1", "b118"},
-      {"more lines", "; x\r\n\r\n" + ours + "more\r\n" + wanted, {"Ours", "Wanted"}, 118, "b1", "b118"},
-      {"name before any mark", "Wanted\r\n" + Texts("x", 118) + wanted, {"Wanted"}, 118, "x1", "x118"},
-      {"earlier text equals the name", likeName + wanted, {"Ours", "Wanted"}, 118, "x1", "x118"},
-      {"mark in lower case", "#language\r\nOurs\r\n" + wanted, {"Wanted"}, 118, "b1", "b118"},
-      {"blank behind the mark", "#LANGUAGE \r\nOurs\r\n" + wanted, {"Wanted"}, 118, "b1", "b118"},
-      {"empty text", kMark + "Wanted\r\n\r\n" + Texts("b", 117), {"Wanted"}, 118, "", "b117"},
-      {"short block", Block("Wanted", "b", 3) + ours, {"Wanted", "Ours"}, 3, "b1", ""},
-      {"short block at the end", ours + Block("Wanted", "b", 117), {"Ours", "Wanted"}, 117, "b1", ""},
-      {"no such language", ours, {"Ours"}, -1, "old", "old"},
-      {"mark as the last line", ours + "#LANGUAGE", {"Ours"}, -1, "old", "old"},
-      {"empty file", "", {}, -1, "old", "old"},
-      {"line feeds only", "#LANGUAGE\nWanted\nx\n", {"Wanted"}, 1, "x", ""}};
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.What);
-    const Reading reading = Read(c.Bytes, "Wanted");
-    EXPECT_EQ(reading.Names, c.Names);
-    EXPECT_EQ(reading.Count, c.Count);
-    EXPECT_EQ(reading.Language.Text[1], c.First);
-    EXPECT_EQ(reading.Language.Text[118], c.Last);
+  const std::string ours = Block("Ours", "a"), wanted = Block("Wanted", "b"), mark = "#LANGUAGE\r\n";
+  std::string twelve;
+  for (int i = 1; i <= 12; ++i) twelve += Block("L" + std::to_string(i), "x", 2);
+  const std::tuple<const char*, std::string, std::string> cases[] = {
+      {"second block, and lines between", "; x\r\n\r\n" + ours + "more\r\n" + wanted,
+       "Ours,Wanted,: 118 texts, b1 to b118"},
+      {"name before any mark", "Wanted\r\nx\r\n" + wanted, "Wanted,: 1 texts, x to "},
+      {"earlier text equals the name", mark + "Ours\r\nWanted\r\nx\r\n" + wanted, "Ours,Wanted,: 1 texts, x to "},
+      {"mark in lower case", "#language\r\nOurs\r\n" + wanted, "Wanted,: 118 texts, b1 to b118"},
+      {"blank behind the mark", "#LANGUAGE \r\nOurs\r\n" + wanted, "Wanted,: 118 texts, b1 to b118"},
+      {"text like the mark", mark + "Wanted\r\na\r\n" + mark + "b\r\n", "Wanted,b,: 1 texts, a to "},
+      {"empty text", Block("Wanted\r\n", "b", 117), "Wanted,: 118 texts,  to b117"},
+      {"short block", Block("Wanted", "b", 3) + ours, "Wanted,Ours,: 3 texts, b1 to "},
+      {"short block at the end", ours + Block("Wanted", "b", 117), "Ours,Wanted,: 117 texts, b1 to "},
+      {"no such language", ours, "Ours,: -1 texts, old to old"},
+      {"mark as the last line", ours + "#LANGUAGE", "Ours,: -1 texts, old to old"},
+      {"empty file", "", ": -1 texts, old to old"},
+      {"line feeds only", "#LANGUAGE\nWanted\nx\n", "Wanted,: 1 texts, x to "},
+      {"twelve blocks", twelve, "L1,L2,L3,L4,L5,L6,L7,L8,L9,L10,: -1 texts, old to old"},
+      {"line without end", mark + std::string(1'100'000, 'x') + "\r\n" + wanted, ": -1 texts, old to old"}};
+  for (const auto& [what, bytes, found] : cases) EXPECT_EQ(Read(bytes), found) << what;
+}
+
+std::ifstream Shipped() { return std::ifstream(ORVANBEG_RUN_FOLDER "/language.ini", std::ios::binary); }
+
+TEST(LanguageIniTest, IsWindows1252InBlocksOf118Texts) {
+  auto file = Shipped();
+  std::vector<int> blocks;  // lines of each
+  for (std::string line; std::getline(file, line);) {
+    EXPECT_THAT(line, testing::EndsWith("\r"));
+    EXPECT_EQ(line.find("\xC3"), std::string::npos) << "looks like UTF-8: " << line;
+    if (line == "#LANGUAGE\r") blocks.push_back(0);
+    if (!blocks.empty()) ++blocks.back();
   }
+  EXPECT_GE(blocks.size(), 2U);
+  EXPECT_THAT(blocks, testing::Each(120));
 }
 
-TEST(LanguageFileTest, TextThatLooksLikeAMarkIsListed) {
-  EXPECT_THAT(Read(kMark + "Ours\r\na\r\n#LANGUAGE\r\nb\r\n", "Ours").Names, testing::ElementsAre("Ours", "b"));
-}
-
-TEST(LanguageFileTest, EleventhBlockIsNotListed) {
-  std::string bytes;
-  for (int i = 1; i <= 12; ++i) bytes += Block("L" + std::to_string(i), "x", 2);
-  const Reading reading = Read(bytes, "L10");
-  ASSERT_EQ(reading.Names.size(), 10U);
-  EXPECT_EQ(reading.Names.back(), "L10");
-}
-
-TEST(LanguageFileTest, NothingBehindALineWithoutEndIsRead) {
-  EXPECT_THAT(Read(kMark + std::string(1'100'000, 'x') + "\r\n" + Block("Ours", "a"), "Ours").Names,
-              testing::IsEmpty());
+TEST(LanguageIniTest, AccessKeysAreUniqueWithinEachMenu) {
+  const std::vector<std::size_t> menus[] = {
+      {1, 8, 13}, {2, 3, 4, 5, 6, 7}, {9, 10, 11, 111, 12, 118}, {9, 10, 11, 112, 12, 118}, {14, 15}};
+  core::Language language;
+  auto list = Shipped();
+  for (int block = storage::ListLanguages(list, language); block >= 1; --block) {
+    auto file = Shipped();
+    language.Languages[0] = language.Languages[static_cast<std::size_t>(block)];
+    ASSERT_EQ(storage::LoadTexts(file, language), 118);
+    for (const auto& menu : menus) {
+      std::set<int> keys;
+      for (const std::size_t number : menu) {
+        const std::string text = language.Text[number] + "&";
+        const auto key = text.find('&') + 1;
+        EXPECT_TRUE(key < text.size() && keys.insert(std::toupper(text[key])).second) << language.Languages[0] + text;
+      }
+    }
+  }
 }
 
 }  // namespace

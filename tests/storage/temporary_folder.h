@@ -4,12 +4,11 @@
 #include <gtest/gtest.h>
 #include <stdlib.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <set>
 #include <string>
-#include <vector>
 
 namespace tests {
 
@@ -24,13 +23,10 @@ class TemporaryFolder : public testing::Test {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
   }
-  /// All that is in the folder or one below it, sorted.
-  std::vector<std::string> Names(const std::string& below = {}) const {
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(Folder / below)) {
-      names.push_back(entry.path().filename().string());
-    }
-    std::sort(names.begin(), names.end());
+  /// All that is in the folder or one below it.
+  std::set<std::string> Names(const std::string& below = {}) const {
+    std::set<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(Folder / below)) names.insert(entry.path().filename());
     return names;
   }
 

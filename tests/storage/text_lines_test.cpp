@@ -9,58 +9,37 @@
 namespace tests {
 namespace {
 
-TEST(CodePageTest, AllBytesSurvive) {
-  std::string bytes;
-  for (int byte = 0; byte < 256; ++byte) bytes += static_cast<char>(byte);
-  const std::string text = storage::FromCodePage(bytes);
-  EXPECT_EQ(storage::ToCodePage(text), bytes);
-}
-
-TEST(CodePageTest, CharactersHaveTheBytesOfWindows1252) {
-  struct Case {
-    const char *Text, *Bytes, *Storable;
-  };
-  const Case cases[] = {{"Gr\u00F6\u00DFe",
-                         "Gr\xF6\xDF"
-                         "e",
-                         "Gr\u00F6\u00DFe"},
-                        {"€ Š ž Ÿ „“", "\x80 \x8A \x9E \x9F \x84\x93", "€ Š ž Ÿ „“"},
-                        {"Győr → 😀", "Gy?r ? ?", "Gyr  "},
-                        {"Anna\r\nB", "Anna\r\nB", "AnnaB"},
-                        {"\xE2\x82", "??", ""},
-                        {"\xC3(x", "?(x", "(x"}};
-  for (const Case& c : cases) {
-    EXPECT_EQ(storage::ToCodePage(c.Text), c.Bytes);
-    EXPECT_EQ(storage::Storable(c.Text), c.Storable);
+TEST(CodePageTest, CharactersHaveTheBytesOfWindows1252AndAllBytesSurvive) {
+  const std::tuple<const char*, std::string, std::string> cases[] = {
+      {"€ Š ž Ÿ „“ ß", "\x80 \x8A \x9E \x9F \x84\x93 \xDF", "€ Š ž Ÿ „“ ß"},
+      {"Győr → 😀", "Gy?r ? ?", "Gyr  "},
+      {"Anna\r\nB", "Anna\r\nB", "AnnaB"},
+      {"\xE2\x82", "??", ""},
+      {"\xC3(x", "?(x", "(x"}};
+  for (const auto& [text, bytes, storable] : cases) {
+    EXPECT_EQ(storage::ToCodePage(text), bytes);
+    EXPECT_EQ(storage::Storable(text), storable);
   }
-  EXPECT_EQ(storage::CharacterOf(0x80), "€");
-  EXPECT_EQ(storage::CharacterOf(256), "");
-  EXPECT_EQ(storage::CharacterOf(-1), "");
+  for (int code = -1; code <= 256; ++code) {
+    const std::string byte(code >= 0 && code <= 255 ? 1 : 0, static_cast<char>(code));
+    EXPECT_EQ(storage::ToCodePage(storage::CharacterOf(code)), byte) << code;
+  }
 }
 
 TEST(LineReaderTest, LinesEndWhereTheKindOfFileSays) {
-  using storage::LineFeeds;
-  struct Case {
-    const char* Bytes;
-    LineFeeds Mode;
-    std::vector<std::string> Lines;
-  };
-  const Case cases[] = {
-      {"", LineFeeds::EndLines, {}},
-      {"a\r\n\r\nb\r\n", LineFeeds::EndLines, {"a", "", "b"}},
-      {"a\r\nunfinished", LineFeeds::EndLines, {"a", "unfinished"}},
-      {"a\nb\n", LineFeeds::EndLines, {"a", "b"}},
-      {"a\rb", LineFeeds::EndLines, {"a", "b"}},
-      {"a\n\rb", LineFeeds::EndLines, {"a", "", "b"}},
-      {"a\nb\r\nc\rd", LineFeeds::PartOfLine, {"a\nb", "c", "d"}},
-      {"W\xFCrfe\r\n", LineFeeds::PartOfLine, {"Würfe"}},
-  };
-  for (const Case& c : cases) {
-    std::istringstream file(c.Bytes);
-    storage::LineReader reader(file, c.Mode);
+  using enum storage::LineFeeds;
+  const std::tuple<const char*, storage::LineFeeds, std::vector<std::string>> cases[] = {
+      {"", EndLines, {}},
+      {"a\r\n\r\nb\r\n", EndLines, {"a", "", "b"}},
+      {"a\rb\nunfinished", EndLines, {"a", "b", "unfinished"}},
+      {"a\n\rb", EndLines, {"a", "", "b"}},
+      {"a\nb\r\nc\rW\xFCrfe\r\n", PartOfLine, {"a\nb", "c", "Würfe"}}};
+  for (const auto& [bytes, mode, expected] : cases) {
+    std::istringstream file(bytes);
+    storage::LineReader reader(file, mode);
     std::vector<std::string> lines;
     for (std::string line; reader.Next(line);) lines.push_back(line);
-    EXPECT_EQ(lines, c.Lines) << c.Bytes;
+    EXPECT_EQ(lines, expected) << bytes;
   }
 }
 

@@ -1,0 +1,98 @@
+// The figures of chart, clocks and board where rounding or an extreme decides, and numbers as text.
+#include "../../core/dice_stats.h"
+
+#include <gmock/gmock.h>
+
+#include "../../core/arithmetic.h"
+#include "../../core/clock.h"
+#include "../../core/number_text.h"
+#include "seated_game.h"
+
+namespace tests {
+namespace {
+
+using testing::ElementsAre;
+using Counts = std::array<std::int16_t, 13>;
+
+core::Game GameOf(const Counts& counts) {
+  core::Game game;
+  game.DiceCount = counts;
+  core::ComputeDiceFigures(game);
+  return game;
+}
+
+TEST(DiceStatsTest, BarUnitFillsTheRoomAndKeepsTheMarkerInside) {
+  const std::tuple<const char*, Counts, int, long long> cases[] = {
+      {"marker ends at the edge", {0, 0, 11, 11, 11, 11, 5}, 27, 220},
+      {"marker would end beyond", {0, 0, 11, 11, 11, 11, 6}, 26, 216},
+      {"counts beyond any game", {0, 0, 32767, 32767, 32767, 32767}, 0, 0},
+      {"only negative counts", {0, 0, -5, -5, -5, -5, -5, -5, -5, -5, -5, -5, -5}, 300, -2748},
+      {"counts that cancel out", {0, 0, 5, -5}, 60, 0}};
+  for (const auto& [what, counts, unit, markerOf7] : cases) {
+    EXPECT_EQ(core::ChartBarUnit(GameOf(counts)), unit) << what;
+    EXPECT_EQ(core::ChartMarkerLength(GameOf(counts), unit, 7), markerOf7) << what;
+  }
+}
+
+TEST(DiceStatsTest, ExactShareOfASumCountsAsAboveAndALittleLessDoesNot) {
+  const core::Game exact = GameOf({0, 0, 1, 2, 3, 4, 5, 6, 5, 4, 3, 2, 1});
+  for (int sum = 2; sum <= 12; ++sum) EXPECT_TRUE(core::IsAboveShare(exact, sum)) << sum;
+  EXPECT_FALSE(core::IsAboveShare(GameOf({0, 0, 2, 2, 3, 4, 5, 6, 5, 4, 3, 2, 1}), 7));
+}
+
+TEST(DiceStatsTest, EventShareIsWholeAndZeroWithoutRolls) {
+  core::Game game;
+  game.EventCount = {0, 328, -7};
+  EXPECT_EQ(core::EventPercent(game, 1), 0);
+  game.TotalRolls = 500;
+  EXPECT_EQ(core::EventPercent(game, 1), 65);
+  EXPECT_EQ(core::EventPercent(game, 2), -1);
+}
+
+TEST(ArithmeticTest, DivisionRoundsTiesToEvenAndDropsTheRest) {
+  const std::tuple<double, double, int> cases[] = {{2.5, 1, 2}, {3.5, 1, 4}, {-2.5, 1, -2}, {7, 2.5, 3},
+                                                   {8, 3.5, 2}, {-7, 2, -3}, {9, 0.5, 0}};
+  for (const auto& [dividend, divisor, result] : cases)
+    EXPECT_EQ(core::WholeDivide(dividend, divisor), result) << dividend;
+}
+
+TEST(NumberTextTest, DecimalsFollowTheSystem) {
+  const std::tuple<float, std::string, std::string> cases[] = {
+      {6.25F, "6,3", "6,25"}, {16.666666F, "16,7", "16,666666"}, {100, "100,0", "100"}};
+  for (const auto& [value, oneDecimal, plain] : cases) {
+    EXPECT_EQ(core::WithOneDecimal(value, ","), oneDecimal);
+    EXPECT_EQ(core::PlainText(value, ","), plain);
+  }
+}
+
+TEST(ClockTest, CountsBothClocksUpToTheirEndWhileTheyRun) {
+  core::Game game;
+  game.Clock = {32766, -1};
+  core::Tick(game);
+  EXPECT_THAT(game.Clock, ElementsAre(32766, -1)) << "the clocks stand";
+  game.ClockRunning = true;
+  for (int second = 1; second <= 2; ++second) core::Tick(game);
+  EXPECT_THAT(game.Clock, ElementsAre(32767, 1));
+}
+
+TEST(ClockTest, WritesHoursOnlyWhereThereAreAny) {
+  const std::pair<int, std::string> cases[] = {{59, "00:59"},     {600, "10:00"},      {3599, "59:59"},
+                                               {3661, "1:01:01"}, {36000, "10:00:00"}, {-1, "00:00"}};
+  for (const auto& [seconds, text] : cases) EXPECT_EQ(core::ClockText(seconds), text) << seconds;
+}
+
+TEST(BoardTotalsTest, AddUpTheFirstSeatsWhetherOrNotTheyAreMarkedAsPlaying) {
+  core::Game game = SeatedGame(0);
+  for (std::int16_t seat = 0; seat <= core::kSeats; ++seat) {
+    game.Players[static_cast<std::size_t>(seat)] = {
+        .Name = "", .Settlements = 30000, .Cities = seat, .TradeMetropolis = true, .ScienceMetropolis = seat >= 3};
+  }
+  const std::pair<std::int16_t, core::BoardTotals> cases[] = {{-32768, {}}, {3, {90000, 6, 4}}, {7, {180000, 21, 10}}};
+  for (const auto& [players, totals] : cases) {
+    game.NumPlayers = players;
+    EXPECT_EQ(core::CountBoard(game), totals) << players << " players";
+  }
+}
+
+}  // namespace
+}  // namespace tests
