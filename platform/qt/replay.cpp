@@ -19,7 +19,7 @@ class Player {
     painter_.setFont(ToQt(step.Face, measure_.pixelsPerPoint));
     painter_.setPen(ToQt(step.Ink));
     const double ascent = painter_.fontMetrics().ascent();
-    painter_.drawText(At(step.X, step.Y) + QPointF(0, ascent), ToQt(step.Text));
+    painter_.drawText(At(step.X, step.Y) + QPointF(0, ascent), Fitting(step));
   }
 
   void operator()(const LineStep& step) {
@@ -52,6 +52,13 @@ class Player {
   }
 
  private:
+  QString Fitting(const TextStep& step) const {
+    const QString text = ToQt(step.Text);
+    if (measure_.rightEdge == 0) return text;
+    const double room = measure_.rightEdge - Pixel(step.X);
+    return QFontMetricsF(painter_.font(), painter_.device()).elidedText(text, Qt::ElideRight, room);
+  }
+
   /// Counts from a file can put a step anywhere; what lies this far outside is never seen.
   double Pixel(double unit) const { return std::clamp(unit / measure_.unitsPerPixel, -30000.0, 30000.0); }
   QPointF At(double x, double y) const { return {Pixel(x), Pixel(y)}; }

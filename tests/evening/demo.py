@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
-"""Plays a short evening on a virtual screen, by keys, and leaves pictures of it and the saved game: four players and
+"""Plays a short evening on a virtual screen, by keys, and leaves pictures of it, the saved game and its page: four players and
 the first expansion, rolls and what was built in between, an attack, the standing, the settings, the winner.
-Usage: demo.py PROGRAM FOLDER    FOLDER takes the screenshots and evening.obg"""
+Usage: demo.py PROGRAM FOLDER    FOLDER takes the screenshots, evening.obg and evening.pdf"""
 import pathlib
 import shutil
 import sys
 
-from steps import act, begin_game, roll, save
+from steps import act, begin_game, print_page, roll, save
 from virtual_screen import Program, Screen, end_by_itself
 
 TIME_LIMIT = 120  # seconds
@@ -61,6 +61,7 @@ def play(program):
     keys("Return")
     program.wait_for_main_alone()
     save(program, program.folder / "evening.obg")
+    print_page(program, program.folder / "evening.pdf")
 
     play_turns(program, AFTER.split())
     act(program, *WINS)
@@ -80,7 +81,8 @@ def main():
         for name, window in play(program):
             program.save_when_calm(folder / f"{name}.png", window)
             print(folder / f"{name}.png")
-        print(shutil.copy(program.folder / "evening.obg", folder))
+        for name in ("evening.obg", "evening.pdf"):
+            print(shutil.copy(program.folder / name, folder))
 
 
 if __name__ == "__main__":

@@ -79,6 +79,18 @@ def save(program, path):
     return wait_for(lambda: path.exists() and path.read_bytes(), f"the file {path}")
 
 
+def print_page(program, path):
+    """Without a printer the report goes into a PDF file, whose name is asked for."""
+    program.screen.chord("ctrl", "p")
+    program.wait_for_dialog()
+    program.screen.keys("Return")
+    wait_for(lambda: len(program.windows()) == 3, "the file dialog above the print dialog")
+    program.screen.type(str(path))
+    program.screen.keys("Return")
+    program.wait_for_main_alone()
+    return wait_for(lambda: path.exists() and path.read_bytes().startswith(b"%PDF"), f"the page {path}")
+
+
 def quit_program(program):
     """Through the menu's command and its question; gives back the exit status."""
     program.screen.chord("ctrl", "q")
