@@ -1,4 +1,4 @@
-// The settings dialog: what takes effect at once, what at OK, and what it refuses.
+// The settings dialog: what waits for OK, and what it refuses.
 #include "../main_window_fixture.h"
 
 namespace tests {
@@ -10,17 +10,6 @@ struct SettingsTest : MainWindowTest {
   SettingsTest() { F8.OpenSettings(); }
   std::string FileMenu() { return (*window.F1.MenuBar)["mnuFile"].Caption.Get(); }
 };
-
-TEST_F(SettingsTest, BoxesTakeEffectAtOnceOrAtOk) {
-  for (auto* box : {&F8.cbxLastSix, &F8.cbxSieger, &F8.cbxBarbarians, &F8.cbxShowGameTime, &F8.cbxRedGreen}) {
-    Click(*box);
-  }
-  EXPECT_TRUE(!settings.ShowGameTime && settings.Contrast.IsOff() && !F8.txtSieger.Enabled);
-  EXPECT_TRUE(settings.ShowLast6 && settings.ShowWinner && settings.ShowBarbarians);
-  Key(F8, platform::kKeyEnter);
-  EXPECT_FALSE(settings.ShowLast6 || settings.ShowWinner || settings.ShowBarbarians);
-  EXPECT_TRUE(!window.F1.picInfoLine.Visible && window.F1.AcceptsInput());
-}
 
 TEST_F(SettingsTest, HotkeysAreOneLetterEachAndWaitForOk) {
   const std::tuple<const char*, const char*, bool> rows[] = {
@@ -48,21 +37,6 @@ TEST_F(SettingsTest, WinPointsFollowEachKey) {
     EXPECT_EQ(F8.txtSieger.Text.Get(), shown);
     EXPECT_EQ(game.WinPoints, points) << typed;
   }
-}
-
-TEST_F(SettingsTest, ThemeFollowsTheListOrTheGame) {
-  game.GameType = core::kFirstExpansion;
-  Click(F8.chkHGAuto);
-  EXPECT_EQ(settings.HG, 1);
-  for (const std::string& typed : {window.State.Text(68), std::string("flo")}) {
-    F8.Type(F8.cmbHG, typed);
-    EXPECT_EQ(settings.HG, 3);
-    EXPECT_EQ(window.F1.Image.Get().Name, "img/flo_back.jpg");
-  }
-  Click(F8.chkHGAuto);
-  EXPECT_EQ(settings.HG, 2);
-  EXPECT_EQ(F8.cmbHG.Text.Get(), window.State.Text(67));
-  EXPECT_FALSE(F8.cmbHG.Enabled);
 }
 
 TEST_F(SettingsTest, OnlyALanguageOfTheListClosesAndALostFileLeavesTheTexts) {

@@ -1,7 +1,5 @@
-// The panels of the seats, compared as drawings; the pictures of a theme, and what a missing one leaves; what a redraw
-// changes besides: points, buttons of the actions, the win.
+// The panels of the seats, compared as drawings; what a missing picture of a theme leaves.
 #include "../../core/points.h"
-#include "../../mainwindow/themes.h"
 #include "../drawn.h"
 #include "../main_window_fixture.h"
 
@@ -17,20 +15,6 @@ struct PanelsTest : MainWindowTest {
   void Draw() { core::CalcPoints(game, window); }
   Lines Panel(int seat) { return Drawn(window.F1.picSP(seat - 1).Drawing); }
   std::string Ground(int seat) { return window.F1.picSP(seat - 1).Image.Get().Name; }
-  /// Loads a theme; tells what is seen then, in the order in which the pictures are loaded.
-  Lines Load(int theme, bool whole = true) {
-    mainwindow::F1& F1 = window.F1;
-    EXPECT_EQ(mainwindow::LoadThemeImages(theme, settings, services, F1), whole);
-    Lines names{F1.Image.Get().Name, F1.picW.Image.Get().Name};
-    for (int i = 0; i < 6; ++i) names.push_back(F1.picSP(i).Image.Get().Name);
-    names.push_back(F1.picInfoLine.Image.Get().Name);
-    return names;
-  }
-  static Lines Theme(const std::string& prefix) {
-    Lines names{"_back", "_picw", "_s1", "_s2", "_s3_high", "_s4", "_s5", "_s6", "_last6"};
-    for (std::string& name : names) name = "img/" + prefix + name + ".jpg";
-    return names;
-  }
 };
 
 TEST_F(PanelsTest, ShowAllThatAPlayerHoldsAndMarkTheLeader) {
@@ -66,40 +50,6 @@ TEST_F(PanelsTest, LeadersHaveAGroundOfTheirOwnOnHiddenSeatsTooAndAMissingOneLea
     Draw();
     EXPECT_EQ(Ground(1), "img/flo_s1.jpg");
     EXPECT_EQ(Ground(2) + Ground(3) + Ground(6), prefix + "2_high.jpg" + prefix + "3.jpg" + prefix + "6_high.jpg");
-  }
-}
-
-TEST_F(PanelsTest, OnlyThreeThemesChangeAnythingAndAMissingPictureStopsThere) {
-  const std::tuple<int, int, const char*> cases[] = {{2, 2, "bw"},  {0, 2, "bw"},   {4, 2, "bw"},
-                                                     {3, 3, "flo"}, {-1, 3, "flo"}, {1, 1, "basis"}};
-  for (const auto& [theme, chosen, prefix] : cases) {
-    EXPECT_EQ(Load(theme), Theme(prefix)) << theme;
-    EXPECT_EQ(settings.HG, chosen) << theme;
-  }
-  Lines expected = Theme("basis");
-  const Lines wanted = Theme("bw");
-  for (std::size_t missing = 0; missing < 9; ++missing) {
-    services.MissingPictures = {wanted[missing]};
-    EXPECT_EQ(Load(2, false), expected) << wanted[missing];
-    expected[missing] = wanted[missing];
-  }
-  EXPECT_EQ(settings.HG, 2);
-}
-
-TEST_F(PanelsTest, RedrawOffersTheActionsAndTellsTheWinUnlessSwitchedOff) {
-  const std::tuple<std::int16_t, bool, const char*> rows[] = {
-      {2, true, "1111100000"}, {3, false, "1111011111"}, {7, true, "1111011111"}};
-  game.Players[2].BonusPoints = 8;
-  for (const auto& [gameType, told, expected] : rows) {
-    game.GameType = gameType;
-    game.GameWon = false;
-    settings.ShowWinner = told;
-    Draw();
-    std::string offered;
-    for (int action = 1; action <= 10; ++action) offered += window.F4.cmdSP(action).Enabled ? '1' : '0';
-    EXPECT_EQ(offered, expected);
-    EXPECT_TRUE(window.F9.Visible == told && window.F1.Enabled == !told && game.GameWon == told);
-    if (told) Click(window.F9.cmdOK);
   }
 }
 

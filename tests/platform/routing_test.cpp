@@ -111,7 +111,6 @@ TEST_F(RoutingTest, EnterEscAndSpacePressButtons) {
     form.SetFocus(focus);
     return LogOfKey(code);
   };
-  EXPECT_THAT(logOf(kKeyEnter, false, form.txt), ElementsAre("ok"));
   EXPECT_THAT(logOf(kKeyEnter, false, form.cmdCancel), ElementsAre("cancel"));
   EXPECT_THAT(logOf(kKeyEnter, true, form.cmdCancel), ElementsAre("ok"));
   EXPECT_THAT(logOf(kKeyEscape, false, form.txt), ElementsAre("cancel"));
@@ -122,24 +121,6 @@ TEST_F(RoutingTest, EnterEscAndSpacePressButtons) {
   EXPECT_THAT(LogOfKey(kKeyEnter), ElementsAre("form 13", "field 13"));
   form.cmdCancel.Enabled = false;
   EXPECT_THAT(LogOfKey(kKeyEscape), ElementsAre("form 27", "field 27"));
-}
-
-TEST_F(RoutingTest, TabWalksOverWhatCanBeUsed) {
-  const auto walk = [this](Modifiers with) {
-    std::string names = form.Focus()->Name;
-    for (int i = 0; i < 4; ++i) {
-      Key(form, kKeyTab, with);
-      names += " " + form.Focus()->Name;
-    }
-    return names;
-  };
-  EXPECT_EQ(walk({}), "txt cbx cmdOK cmdCancel txt");
-  EXPECT_EQ(walk({.Shift = true}), "txt cmdCancel cmdOK cbx txt");
-  form.frame.Visible = false;
-  form.cmdCancel.Enabled = false;
-  EXPECT_EQ(walk({}), "txt cmdOK txt cmdOK txt");
-  form.txt.Enabled = false;
-  EXPECT_EQ(form.Focus(), &form.cmdOK);
 }
 
 TEST_F(RoutingTest, KeysForTheLockedWindowGoToTheFormShownJustNow) {
