@@ -40,7 +40,7 @@ class MainWindow : public core::Screen, private storage::GameFileEvents {
   mainwindow::F1 F1;
 
  private:
-  windows::Context context_;
+  windows::Context context_;  // made before the dialogs, which are made with it
 
  public:
   dialogs::F2 F2;
