@@ -83,7 +83,8 @@ void FormWindow::ControlChanged(Control& control, Aspect aspect) {
 
 void FormWindow::FormChanged(Aspect aspect) {
   if (aspect == Aspect::Title) setWindowTitle(ToQt(form_.Caption.Get()));
-  if (aspect == Aspect::Picture || aspect == Aspect::Drawing) client_->update();
+  if (aspect == Aspect::Picture) client_->update();
+  if (aspect == Aspect::Drawing) client_->DrawingChanged();
 }
 
 void FormWindow::FollowVisible(QPoint origin) {

@@ -1,10 +1,9 @@
 #include "pictures.h"
 
-#include <QDateTime>
-#include <QFileInfo>
 #include <QHash>
 #include <QPaintDevice>
 #include <QSvgRenderer>
+#include <filesystem>
 #include <memory>
 
 #include "convert.h"
@@ -16,7 +15,7 @@ namespace {
 struct Decoded {
   std::unique_ptr<QSvgRenderer> drawing;
   QImage image;
-  QDateTime fileTime;
+  std::filesystem::file_time_type fileTime;
   QPixmap pixels;
   qreal pixelsRatio = 0;
 
@@ -25,13 +24,19 @@ struct Decoded {
 
 QString PathOf(const Picture& picture) { return picture.IsResource ? ":/" + ToQt(picture.Name) : ToQt(picture.Name); }
 
+/// When the file was changed last, as the system counts it.
+std::filesystem::file_time_type TimeOf(const Picture& picture) {
+  std::error_code unknown;
+  return std::filesystem::last_write_time(picture.Name, unknown);
+}
+
 Decoded Decode(const Picture& picture) {
   Decoded decoded;
   const QString path = PathOf(picture);
   if (picture.IsResource) {
     decoded.drawing = std::make_unique<QSvgRenderer>(path);
   } else {
-    decoded.fileTime = QFileInfo(path).lastModified();
+    decoded.fileTime = TimeOf(picture);
     decoded.image.load(path);
   }
   return decoded;
@@ -39,15 +44,11 @@ Decoded Decode(const Picture& picture) {
 
 QHash<QString, std::shared_ptr<Decoded>> kept;
 
-Decoded& Find(const Picture& picture) {
+/// The picture as it was decoded last, for painting: the file is not looked at again.
+const std::shared_ptr<Decoded>& Find(const Picture& picture) {
   std::shared_ptr<Decoded>& found = kept[PathOf(picture)];
-  const bool stale = found && !picture.IsResource && QFileInfo(PathOf(picture)).lastModified() != found->fileTime;
-  if (!found || stale) {
-    auto fresh = std::make_shared<Decoded>(Decode(picture));
-    // A file that has vanished or is damaged now leaves the picture that was seen so far.
-    if (!found || !fresh->Size().isEmpty()) found = std::move(fresh);
-  }
-  return *found;
+  if (!found) found = std::make_shared<Decoded>(Decode(picture));
+  return found;
 }
 
 QPixmap Render(const Decoded& decoded, qreal ratio) {
@@ -65,11 +66,22 @@ QPixmap Render(const Decoded& decoded, qreal ratio) {
 
 void ForgetPictures() { kept.clear(); }
 
-QSize SizeOf(const Picture& picture) { return picture.Empty() ? QSize() : Find(picture).Size(); }
+QSize SizeOf(const Picture& picture) { return picture.Empty() ? QSize() : Find(picture)->Size(); }
+
+bool LookFor(const Picture& picture) {
+  if (picture.Empty() || picture.IsResource) return !SizeOf(picture).isEmpty();
+  std::shared_ptr<Decoded>& found = kept[PathOf(picture)];
+  if (!found || found->fileTime != TimeOf(picture)) {
+    auto fresh = std::make_shared<Decoded>(Decode(picture));
+    // A file that has vanished or is damaged now leaves the picture that was seen so far.
+    if (!found || !fresh->Size().isEmpty()) found = std::move(fresh);
+  }
+  return !found->Size().isEmpty();
+}
 
 QPixmap PixmapOf(const Picture& picture, qreal devicePixelRatio) {
   if (picture.Empty()) return {};
-  Decoded& decoded = Find(picture);
+  Decoded& decoded = *Find(picture);
   if (!decoded.Size().isEmpty() && decoded.pixelsRatio != devicePixelRatio) {
     decoded.pixels = Render(decoded, devicePixelRatio);
     decoded.pixelsRatio = devicePixelRatio;
@@ -79,7 +91,7 @@ QPixmap PixmapOf(const Picture& picture, qreal devicePixelRatio) {
 
 void DrawScaled(QPainter& painter, const Picture& picture, QPointF at, double scale) {
   if (picture.Empty()) return;
-  const Decoded& decoded = Find(picture);
+  const Decoded& decoded = *Find(picture);
   const QRectF place(at, QSizeF(decoded.Size()) * scale);
   if (decoded.drawing) {
     decoded.drawing->render(&painter, place);

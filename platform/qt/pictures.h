@@ -1,5 +1,5 @@
 // The pictures of the program as Qt draws them: drawings compiled into the program, and files beside it. A picture is
-// decoded once and kept; a file is decoded again only when it has changed.
+// decoded once and kept, so that painting touches no file.
 #pragma once
 
 #include <QPainter>
@@ -12,6 +12,10 @@ namespace platform::qt {
 
 /// The natural size in pixels; empty for a picture that cannot be loaded.
 QSize SizeOf(const Picture& picture);
+
+/// Whether the picture can be shown. A file that has changed since it was decoded is decoded again. Called before a
+/// form is given a file's picture.
+bool LookFor(const Picture& picture);
 
 /// The picture for a screen with this many device pixels to a pixel; a null pixmap if it cannot be loaded.
 QPixmap PixmapOf(const Picture& picture, qreal devicePixelRatio);

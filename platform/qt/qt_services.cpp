@@ -105,7 +105,7 @@ Version QtServices::ProgramVersion() {
   return {ORVANBEG_VERSION_MAJOR, ORVANBEG_VERSION_MINOR, ORVANBEG_VERSION_REVISION};
 }
 
-bool QtServices::CanShow(const Picture& picture) { return !SizeOf(picture).isEmpty(); }
+bool QtServices::CanShow(const Picture& picture) { return LookFor(picture); }
 
 double QtServices::Random() {
   // generate_canonical may round up to 1; a face beyond the last must not come of it.

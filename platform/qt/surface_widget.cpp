@@ -1,6 +1,7 @@
 #include "surface_widget.h"
 
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFrame>
@@ -8,7 +9,6 @@
 
 #include "convert.h"
 #include "pictures.h"
-#include "replay.h"
 
 namespace platform::qt {
 
@@ -17,23 +17,50 @@ MouseButton ButtonOf(Qt::MouseButton button) {
   return button == Qt::LeftButton ? MouseButton::Left : MouseButton::Middle;
 }
 
-PictureWidget::PictureWidget(PictureBox& box, QWidget* parent) : QWidget(parent), box_(box) {
-  setAttribute(Qt::WA_OpaquePaintEvent, box.Opaque);
-  setContextMenuPolicy(Qt::PreventContextMenu);  // the right button belongs to the form
+DrawnWidget::DrawnWidget(const Surface& drawing, const Measure& measure, QWidget* parent)
+    : QWidget(parent), drawing_(drawing), shown_(measure) {}
+
+void DrawnWidget::DrawingChanged() {
+  if (std::exchange(due_, true)) return;
+  QMetaObject::invokeMethod(
+      this, [this] { update(TakeChange()); }, Qt::QueuedConnection);
 }
 
-void PictureWidget::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  if (box_.Ground) {
-    painter.fillRect(rect(), ToQt(*box_.Ground));
-  } else if (box_.Opaque) {
-    painter.fillRect(rect(), palette().window());
+QRegion DrawnWidget::TakeChange() {
+  due_ = false;
+  return shown_.Follow(drawing_.Steps()).translated(contentsRect().topLeft());
+}
+
+void DrawnWidget::Paint(QPainter& painter, const QRegion& region, const std::optional<QColor>& ground,
+                        const Picture& picture, QPoint at) {
+  // One rectangle after the other: pixels are copied into a rectangle, but mixed one by one into any other shape.
+  for (const QRect& part : region) {
+    painter.setClipRect(part);
+    if (ground) painter.fillRect(part, *ground);
+    Draw(painter, picture, at);
   }
-  painter.translate(box_.Border, box_.Border);
-  Draw(painter, box_.Image, {0, 0});
-  Replay(painter, box_.Drawing, kInPixels);
+  painter.setClipRegion(region);
+  painter.translate(at);
+  shown_.Paint(painter, region.translated(-at));
   painter.resetTransform();
+}
+
+PictureWidget::PictureWidget(PictureBox& box, QWidget* parent)
+    : DrawnWidget(box.Drawing, kInPixels, parent), box_(box) {
+  setAttribute(Qt::WA_OpaquePaintEvent, box.Opaque);
+  setContextMenuPolicy(Qt::PreventContextMenu);  // the right button belongs to the form
+  setContentsMargins(box.Border, box.Border, box.Border, box.Border);
+}
+
+void PictureWidget::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  std::optional<QColor> ground;
+  if (box_.Ground) {
+    ground = ToQt(*box_.Ground);
+  } else if (box_.Opaque) {
+    ground = palette().color(QPalette::Window);
+  }
+  Paint(painter, event->region(), ground, box_.Image, contentsRect().topLeft());
   PaintBorder(painter);
 }
 
@@ -57,14 +84,13 @@ void PictureWidget::mouseReleaseEvent(QMouseEvent* event) {
   if (Form* form = box_.Owner()) form->MouseUp(box_, ButtonOf(event->button()));
 }
 
-ClientWidget::ClientWidget(Form& form, QWidget* parent) : QWidget(parent), form_(form) {}
+ClientWidget::ClientWidget(Form& form, QWidget* parent) : DrawnWidget(form.Drawing, kInTwips, parent), form_(form) {
+  setAttribute(Qt::WA_OpaquePaintEvent, form.Ground.has_value());
+}
 
-void ClientWidget::paintEvent(QPaintEvent*) {
+void ClientWidget::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
-  painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  if (form_.Ground) painter.fillRect(rect(), ToQt(*form_.Ground));
-  Draw(painter, form_.Image, {0, 0});
-  Replay(painter, form_.Drawing, kInTwips);
+  Paint(painter, event->region(), form_.Ground ? std::optional(ToQt(*form_.Ground)) : std::nullopt, form_.Image);
 }
 
 }  // namespace platform::qt

@@ -3,13 +3,36 @@
 
 #include <QMouseEvent>
 #include <QWidget>
+#include <optional>
 
 #include "../controls.h"
 #include "../form.h"
+#include "screen_drawing.h"
 
 namespace platform::qt {
 
-class PictureWidget : public QWidget {
+/// A widget with a drawing. Of a drawing that is made anew only what differs from the one before is painted.
+class DrawnWidget : public QWidget {
+ public:
+  DrawnWidget(const Surface& drawing, const Measure& measure, QWidget* parent);
+  /// Called for each step that is drawn; what has changed is painted once the window system has its turn again.
+  void DrawingChanged();
+
+ protected:
+  /// Paints a ground, the picture on it and the drawing, as far as they lie within the region; `at` is the corner of
+  /// picture and drawing, in pixels.
+  void Paint(QPainter& painter, const QRegion& region, const std::optional<QColor>& ground, const Picture& picture,
+             QPoint at = {});
+
+ private:
+  QRegion TakeChange();
+
+  const Surface& drawing_;
+  ScreenDrawing shown_;
+  bool due_ = false;
+};
+
+class PictureWidget : public DrawnWidget {
  public:
   PictureWidget(PictureBox& box, QWidget* parent);
 
@@ -24,7 +47,7 @@ class PictureWidget : public QWidget {
   Qt::MouseButton pressed_ = Qt::NoButton;
 };
 
-class ClientWidget : public QWidget {
+class ClientWidget : public DrawnWidget {
  public:
   ClientWidget(Form& form, QWidget* parent);
 

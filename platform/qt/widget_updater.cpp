@@ -12,6 +12,7 @@
 #include "button_widget.h"
 #include "convert.h"
 #include "fonts.h"
+#include "surface_widget.h"
 #include "tool_bar_widget.h"
 
 namespace platform::qt {
@@ -35,8 +36,7 @@ void WidgetUpdater::Common(Control& control) {
     case Aspect::Font: widget_.setFont(ToQt(control.Face.Get())); break;
     case Aspect::Focus: widget_.setFocus(); break;
     case Aspect::Spoken: widget_.setAccessibleName(ToQt(control.SpokenName.Get())); break;
-    case Aspect::Picture:
-    case Aspect::Drawing: widget_.update(); break;
+    case Aspect::Picture: widget_.update(); break;
     default: break;
   }
 }
@@ -97,7 +97,10 @@ void WidgetUpdater::Visit(Frame& frame) {
   Common(frame);
 }
 
-void WidgetUpdater::Visit(PictureBox& box) { Common(box); }
+void WidgetUpdater::Visit(PictureBox& box) {
+  if (aspect_ == Aspect::Drawing) static_cast<PictureWidget&>(widget_).DrawingChanged();
+  Common(box);
+}
 
 void WidgetUpdater::Visit(ToolBar& bar) {
   if (aspect_ == Aspect::ToolTip) {

@@ -1,0 +1,75 @@
+#include "screen_drawing.h"
+
+#include <algorithm>
+
+#include "convert.h"
+#include "pictures.h"
+#include "replay.h"
+
+namespace platform::qt {
+namespace {
+
+constexpr int kMostParts = 24;  // of a region; with more it costs less to paint what lies between them, too
+constexpr double kAround = 2;   // pixels that soft edges and accents may reach beyond
+
+/// Whether all letters stay between the lines that the font tells of.
+bool IsPlain(const std::string& text) {
+  return std::all_of(text.begin(), text.end(), [](char byte) { return byte >= ' '; });
+}
+
+}  // namespace
+
+QRegion ScreenDrawing::Follow(std::span<const DrawingStep> now) {
+  QRegion change;
+  for (std::size_t i = 0; i < std::max(shown_.size(), now.size()); ++i) {
+    if (i < shown_.size() && i < now.size() && shown_[i].Step == now[i]) continue;
+    if (i < shown_.size()) change += shown_[i].Extent;
+    if (i >= now.size()) continue;
+    if (i >= shown_.size()) shown_.emplace_back();
+    shown_[i] = Shown(now[i]);
+    change += shown_[i].Extent;
+  }
+  shown_.resize(now.size());
+  return change.rectCount() > kMostParts ? QRegion(change.boundingRect()) : change;
+}
+
+void ScreenDrawing::Paint(QPainter& painter, const QRegion& within) const {
+  StepPainter paint(painter, measure_);
+  for (const ShownStep& shown : shown_) {
+    if (!within.intersects(shown.Extent)) continue;
+    if (const auto* text = std::get_if<TextStep>(&shown.Step)) {
+      paint.UseFace(*text);
+      painter.drawStaticText(measure_.At(text->X, text->Y), shown.Letters);
+    } else {
+      std::visit(paint, shown.Step);
+    }
+  }
+}
+
+ScreenDrawing::ShownStep ScreenDrawing::Shown(const DrawingStep& step) const {
+  const auto* text = std::get_if<TextStep>(&step);
+  ShownStep shown{step, text ? LaidOut(*text) : QStaticText(), {}};
+  const double around = text && IsPlain(text->Text) ? 0 : kAround;
+  shown.Extent = ExtentOf(step, shown.Letters).adjusted(-around, -around, around, around).toAlignedRect();
+  return shown;
+}
+
+QStaticText ScreenDrawing::LaidOut(const TextStep& step) const {
+  QStaticText letters(ToQt(step.Text));
+  letters.setTextFormat(Qt::PlainText);
+  letters.prepare({}, measure_.FaceOf(step));
+  return letters;
+}
+
+QRectF ScreenDrawing::ExtentOf(const DrawingStep& step, const QStaticText& letters) const {
+  if (const auto* text = std::get_if<TextStep>(&step)) {
+    const double aside = text->Face.Size / 2;  // letters may lean out of their cells
+    return QRectF(measure_.At(text->X, text->Y), letters.size()).adjusted(-aside, 0, aside, 0);
+  }
+  if (const auto* line = std::get_if<LineStep>(&step)) return measure_.Between(line->X1, line->Y1, line->X2, line->Y2);
+  if (const auto* box = std::get_if<BoxStep>(&step)) return measure_.Between(box->X1, box->Y1, box->X2, box->Y2);
+  const auto& picture = std::get<PictureStep>(step);
+  return {measure_.At(picture.X, picture.Y), SizeOf(picture.Image)};
+}
+
+}  // namespace platform::qt

@@ -1,0 +1,66 @@
+// Painting only what has changed gives the same pixels as painting all of it.
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <random>
+
+#include "../../platform/qt/screen_drawing.h"
+#include "../../windows/image_lists.h"
+
+namespace {
+
+using platform::Surface;
+using platform::qt::kInPixels;
+using platform::qt::ScreenDrawing;
+
+constexpr QSize kSize(240, 120);
+
+void Paint(QImage& image, const ScreenDrawing& drawing, const QRegion& within) {
+  QPainter painter(&image);
+  painter.setClipRegion(within);
+  painter.fillRect(image.rect(), Qt::black);
+  drawing.Paint(painter, within);
+}
+
+/// A drawing of which each step is, one time in four, another than in the one before.
+void DrawByChance(std::mt19937& chance, std::vector<std::uint_fast32_t>& seeds, Surface& surface) {
+  if (chance() % 4 == 0) seeds.resize(chance() % 12, chance());
+  surface.Cls();
+  for (std::uint_fast32_t& seed : seeds) {
+    if (chance() % 4 == 0) seed = chance();
+    std::mt19937 step(seed);
+    const auto number = [&step](unsigned below) { return static_cast<int>(step() % below); };
+    const int x = number(240) - 20, y = number(120) - 20, to = number(120);
+    surface.ForeColor = platform::Colour{static_cast<unsigned char>(number(256)), 200, 100};
+    surface.FontSize = 8 + number(24);
+    surface.FontBold = number(2) == 0;
+    surface.FontName = number(2) == 0 ? "Arial" : "Verdana";
+    switch (number(5)) {
+      case 0: surface.FillBox(x, y, to, to, surface.ForeColor); break;
+      case 1: surface.Box(x, y, to, to, surface.ForeColor); break;
+      case 2: surface.Line(x, y, to, to, surface.ForeColor); break;
+      case 3: surface.PaintPicture(windows::imlW.Image(1 + number(19)), x, y); break;
+      default: surface.PrintAt(x, y, number(2) == 0 ? "ÅÖjfŒ W" : std::to_string(seed)); break;
+    }
+  }
+}
+
+TEST(ScreenDrawing, PaintingTheChangeEqualsPaintingAll) {
+  std::mt19937 chance(20);
+  std::vector<std::uint_fast32_t> seeds;
+  Surface surface;
+  ScreenDrawing kept(kInPixels);
+  QImage grown(kSize, QImage::Format_RGB32);
+  grown.fill(Qt::black);
+  for (int i = 0; i < 300; ++i) {
+    DrawByChance(chance, seeds, surface);
+    Paint(grown, kept, kept.Follow(surface.Steps()));
+    ScreenDrawing fresh(kInPixels);
+    fresh.Follow(surface.Steps());
+    QImage whole(kSize, QImage::Format_RGB32);
+    Paint(whole, fresh, QRect({}, kSize));
+    ASSERT_EQ(grown, whole) << "after drawing " << i;
+  }
+}
+
+}  // namespace
