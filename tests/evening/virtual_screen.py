@@ -125,10 +125,14 @@ class Screen:
         time.sleep(seconds)
         self.run("xdotool", "keyup", key)
 
+    def raw_row(self, x, y, count):
+        """The bytes of `count` pixels from (x, y) to the right as the server keeps them, four each."""
+        start = self._first + y * self._pitch + 4 * x
+        return self._picture[start:start + 4 * count]
+
     def row(self, x, y, count):
         """The bytes red, green, blue of `count` pixels from (x, y) to the right."""
-        start = self._first + y * self._pitch + 4 * x
-        data = self._picture[start:start + 4 * count]
+        data = self.raw_row(x, y, count)
         colours = bytearray(3 * count)
         colours[0::3], colours[1::3], colours[2::3] = data[2::4], data[1::4], data[0::4]
         return bytes(colours)
