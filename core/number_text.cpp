@@ -37,10 +37,15 @@ std::string PlainText(float value, const std::string& decimalSeparator) {
 
 std::string PrintedNumber(int value) { return (value < 0 ? "" : " ") + std::to_string(value) + " "; }
 
-std::optional<double> NumberIn(std::string_view text) {
+std::string_view WithoutBlanks(std::string_view text) {
   const auto first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return std::nullopt;
-  std::string digits(text.substr(first, text.find_last_not_of(' ') - first + 1));
+  return first == std::string_view::npos ? std::string_view()
+                                         : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::optional<double> NumberIn(std::string_view text) {
+  std::string digits(WithoutBlanks(text));
+  if (digits.empty()) return std::nullopt;
   std::replace(digits.begin(), digits.end(), ',', '.');
   const std::size_t sign = digits.front() == '+' || digits.front() == '-' ? 1 : 0;
   if (digits.find_first_not_of(".0123456789", sign) != std::string::npos) return std::nullopt;
@@ -53,6 +58,11 @@ std::optional<double> NumberIn(std::string_view text) {
 }
 
 std::optional<std::int16_t> WholeNumberIn(std::string_view text) {
+  // Nearly all are plain digits; from_chars knows those, but no plus and no fraction.
+  const std::string_view digits = text.starts_with(' ') ? WithoutBlanks(text) : text;
+  std::int16_t plain = 0;
+  const auto end = std::from_chars(digits.data(), digits.data() + digits.size(), plain);
+  if (end.ec == std::errc() && end.ptr == digits.data() + digits.size()) return plain;
   const auto value = NumberIn(text);
   if (!value || std::abs(*value) > 40000) return std::nullopt;
   const double whole = RoundHalfEven(*value);

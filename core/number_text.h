@@ -20,6 +20,9 @@ std::string PlainText(float value, const std::string& decimalSeparator);
 /// A number as a drawing surface prints it: with a blank for the sign in front and one behind.
 std::string PrintedNumber(int value);
 
+/// The text without the blanks at both of its ends.
+std::string_view WithoutBlanks(std::string_view text);
+
 /// The number that a typed text holds: blanks around it, a sign, digits and a fraction behind a point or comma are
 /// understood. Nothing for any other text.
 std::optional<double> NumberIn(std::string_view text);

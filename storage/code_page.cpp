@@ -32,6 +32,9 @@ void AppendUtf8(std::string& text, char32_t character) {
   }
 }
 
+/// Whether a byte means the same in both codes.
+bool IsPlain(char byte) { return static_cast<unsigned char>(byte) < 0x80; }
+
 bool IsContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
 
 /// Takes the next character off the text; kInvalid for a broken sequence, of which one byte is taken.
@@ -59,6 +62,7 @@ std::optional<char> ByteOf(char32_t character) {
 }  // namespace
 
 std::string FromCodePage(std::string_view bytes) {
+  if (std::all_of(bytes.begin(), bytes.end(), IsPlain)) return std::string(bytes);
   std::string text;
   text.reserve(bytes.size());
   for (const char byte : bytes) AppendUtf8(text, CharacterOfByte(static_cast<unsigned char>(byte)));
@@ -66,6 +70,7 @@ std::string FromCodePage(std::string_view bytes) {
 }
 
 std::string ToCodePage(std::string_view utf8) {
+  if (std::all_of(utf8.begin(), utf8.end(), IsPlain)) return std::string(utf8);
   std::string bytes;
   bytes.reserve(utf8.size());
   while (!utf8.empty()) bytes += ByteOf(TakeCharacter(utf8)).value_or('?');

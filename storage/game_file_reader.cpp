@@ -1,6 +1,7 @@
 #include "game_file_reader.h"
 
 #include "../core/number_text.h"
+#include "code_page.h"
 #include "game_file_layout.h"
 #include "line_reader.h"
 #include "words.h"
@@ -12,11 +13,11 @@ class ReadLines {
  public:
   explicit ReadLines(std::istream& file) : reader_(file, LineFeeds::PartOfLine) {}
 
-  bool Text(std::string& text) { return reader_.Next(line_) && Take(text, std::optional(line_)); }
-  bool Number(std::int16_t& number) { return reader_.Next(line_) && Take(number, core::WholeNumberIn(line_)); }
+  bool Text(std::string& text) { return Drop() && Take(text, std::optional(FromCodePage(line_))); }
+  bool Number(std::int16_t& number) { return Drop() && Take(number, core::WholeNumberIn(line_)); }
   bool PaddedNumber(std::int16_t& number) { return Number(number); }
-  bool Flag(bool& flag) { return reader_.Next(line_) && Take(flag, FlagIn(line_)); }
-  bool Drop() { return reader_.Next(line_); }
+  bool Flag(bool& flag) { return Drop() && Take(flag, FlagIn(line_)); }
+  bool Drop() { return reader_.NextBytes(line_); }
   bool EndedByLength() const { return reader_.EndedByLength(); }
 
  private:
@@ -27,7 +28,7 @@ class ReadLines {
   }
 
   LineReader reader_;
-  std::string line_;
+  std::string_view line_;  // numbers and flags are the same bytes in every code
 };
 
 bool ReadPlayersAndCounts(ReadLines& lines, core::Game& game) {

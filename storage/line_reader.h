@@ -4,6 +4,7 @@
 
 #include <istream>
 #include <string>
+#include <string_view>
 
 namespace storage {
 
@@ -16,20 +17,27 @@ enum class LineFeeds {
   EndLines,    ///< files written by hand, whose editor may know no carriage return
 };
 
+/// Has the file to itself: it reads ahead.
 class LineReader {
  public:
   LineReader(std::istream& file, LineFeeds lineFeeds) : file_(*file.rdbuf()), lineFeeds_(lineFeeds) {}
   /// Reads the next line into `line`; false at the end of the file, and from a line on that is longer than
   /// `kLongestLine` or cannot be read. An unfinished last line counts if it is not empty.
   bool Next(std::string& line);
+  /// The same in the bytes of the code page, which stand until the next line is read.
+  bool NextBytes(std::string_view& line);
   /// Whether it was a line's length that ended the reading.
   bool EndedByLength() const { return endedByLength_; }
 
  private:
-  bool NextBytes(std::string& bytes);
+  bool ReadAhead();
+  std::size_t LengthOfLine();
+  bool StandsAt(std::size_t place, char byte);
 
   std::streambuf& file_;
   LineFeeds lineFeeds_;
+  std::string ahead_;      ///< read already
+  std::size_t begin_ = 0;  ///< of what is not told yet in it
   bool ended_ = false;
   bool endedByLength_ = false;
 };

@@ -19,7 +19,7 @@ class ReadEntries {
 
   bool NextLine() {
     const bool read = reader_.Next(line_);
-    entry_ = WithoutBlanks(line_);
+    entry_ = core::WithoutBlanks(line_);
     return read;
   }
   /// Whether an entry was broken, so that nothing behind it counts.

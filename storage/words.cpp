@@ -16,12 +16,6 @@ bool SameWord(std::string_view one, std::string_view other) {
                     [](char a, char b) { return Capital(a) == Capital(b); });
 }
 
-std::string_view WithoutBlanks(std::string_view text) {
-  const auto first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 std::string_view FlagWord(bool flag) { return flag ? "True" : "False"; }
 
 std::optional<bool> FlagIn(std::string_view text) {

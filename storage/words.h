@@ -9,9 +9,6 @@ namespace storage {
 /// Whether two texts are the same but for the case of the letters A to Z.
 bool SameWord(std::string_view one, std::string_view other);
 
-/// The text without the blanks at both of its ends.
-std::string_view WithoutBlanks(std::string_view text);
-
 /// A flag as game files hold it.
 std::string_view FlagWord(bool flag);
 
