@@ -37,6 +37,7 @@ void F2::ShowFile(const std::string& name) {
   std::string text;
   for (std::string line; reader.Next(line);) text += "\r\n" + line;
   txtInfo.Text = text;
+  SetFocus(txtInfo);  // so that the keys scroll
   BringUp();
 }
 

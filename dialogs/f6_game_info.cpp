@@ -61,6 +61,7 @@ void F6::PrepareGameInfo() {
   ShowPictures();
   txtSpieltitel.Text = state().game.GameTitle;
   txtSpielinfo.Text = state().game.GameInfo;
+  SetFocus(txtSpieltitel);
   Open();
 }
 

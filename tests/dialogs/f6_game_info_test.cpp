@@ -54,6 +54,7 @@ TEST_F(GameInfoTest, EveryWayOutTakesBothTextsOverAsTheyStand) {
   for (const auto& [title, info, leave] : rows) {
     window.F1.ClickTool(window.F1.tbrMenu, 4);
     EXPECT_EQ(F6.Caption.Get(), "Spiel-Info");
+    EXPECT_EQ(F6.Focus(), &F6.txtSpieltitel) << "wherever it was when the dialog was left";
     EXPECT_EQ(F6.txtSpieltitel.Text.Get() + "|" + F6.txtSpielinfo.Text.Get(), before);
     F6.Type(F6.txtSpieltitel, title);
     F6.Type(F6.txtSpielinfo, info);
