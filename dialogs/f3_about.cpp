@@ -32,7 +32,7 @@ constexpr Piece kList[] = {
     {3, 0, 12, "Private Homepage:"},
     {4, 162, 12, "orvan-begleiter.example"},
     {5, 0, 24, "e-mail:"},
-    {6, 162, 24, "post@orvan-begleiter.example"},
+    {6, 162, 24, "hi@orvan-begleiter.example"},
     {7, 0, 36, "Danke / Thanks to:"},
     {8, 162, 36, "all who play"},
     {8, 162, 48, "(beta-testing & support)"},

@@ -99,6 +99,7 @@ class RoomForTexts : public tests::RealWindows {
     Window.DrawDiceStats();
     Window.DrawPlayerPanels();
     Window.F1_timSpielzeit_Timer();
+    while (Window.State.AboutFrame < 8) Window.F3.timClock.Elapsed();
   }
 };
 
@@ -120,6 +121,7 @@ TEST_F(RoomForTexts, EveryDrawnTextHasItsRoom) {
     ExpectRoom(Window.F1.picW.Drawing, {609, 237}, 1, name + ", chart");
     ExpectRoom(Window.F1.picInfoLine.Drawing, {609, 21}, 1, name + ", last six");
     ExpectRoom(Window.F1.picSP(5).Drawing, {185, 57}, 1, name + ", panel");
+    ExpectRoom(Window.F3.picFlash.Drawing, {321, 67}, 1, "about");
     ExpectRoom(Window.F1.Drawing, {633, 557}, platform::kTwipsPerPixel, name + ", clocks");
   }
 }
