@@ -160,7 +160,10 @@ bool Shell::HandleKey(FormWindow& window, QKeyEvent& event) {
 void Shell::PressKey(Form* receiver, const QKeyEvent& event) {
   const KeyCode code = CodeOf(event);
   const auto verdict = keys_.Press(code, TimeOf(event), event.isAutoRepeat());
-  if (verdict == KeyTracker::Verdict::Counts && receiver) receiver->KeyPress(code, ModifiersOf(event.modifiers()));
+  if (verdict != KeyTracker::Verdict::Counts || !receiver) return;
+  // From the first Tab on it is seen where the focus is, but not where the keys are the form's wherever it is.
+  if (code == kKeyTab && !receiver->KeyPreview) WindowOf(*receiver)->setAttribute(Qt::WA_KeyboardFocusChange);
+  receiver->KeyPress(code, ModifiersOf(event.modifiers()));
 }
 
 void Shell::ReleaseKey(Form* receiver, const QKeyEvent& event) {

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <algorithm>
 
 #include "button_widget.h"
 #include "convert.h"
@@ -19,6 +20,17 @@ namespace platform::qt {
 namespace {
 
 constexpr int kMarkRoom = 20;  // pixels that the mark of a check box or option button takes
+
+/// What the program puts into a field that the user is typing in leaves the cursor where it was; what it puts into an
+/// emptied one is selected, so that the next key takes its place.
+void SetTextOf(QLineEdit& line, const QString& text) {
+  if (line.text() == text) return;
+  const bool emptied = line.text().isEmpty();
+  const auto behind = line.hasFocus() ? line.text().size() - line.cursorPosition() : 0;
+  line.setText(text);
+  line.setCursorPosition(static_cast<int>(std::max<qsizetype>(text.size() - behind, 0)));
+  if (emptied && line.hasFocus()) line.selectAll();
+}
 
 template <typename Widget>
 void SetMarkedCaption(Widget& widget, const std::string& caption) {
@@ -34,7 +46,7 @@ void WidgetUpdater::Common(Control& control) {
     case Aspect::ToolTip: widget_.setToolTip(ToQt(control.ToolTipText.Get())); break;
     case Aspect::Place: widget_.setGeometry(ToQt(control.Position.Get())); break;
     case Aspect::Font: widget_.setFont(ToQt(control.Face.Get())); break;
-    case Aspect::Focus: widget_.setFocus(); break;
+    case Aspect::Focus: widget_.setFocus(Qt::TabFocusReason); break;  // which selects what a field holds
     case Aspect::Spoken: widget_.setAccessibleName(ToQt(control.SpokenName.Get())); break;
     case Aspect::Picture: widget_.update(); break;
     default: break;
@@ -58,8 +70,8 @@ void WidgetUpdater::Visit(TextBox& box) {
     const QString text = ToQt(box.Text.Get());
     if (box.MultiLine) {
       static_cast<QPlainTextEdit&>(widget_).setPlainText(text);
-    } else if (auto& line = static_cast<QLineEdit&>(widget_); line.text() != text) {
-      line.setText(text);
+    } else {
+      SetTextOf(static_cast<QLineEdit&>(widget_), text);
     }
   }
   Common(box);

@@ -69,6 +69,19 @@ TEST_F(Input, TextFieldsTakeKeysAndEnterAndSpaceStayTheForms) {
   EXPECT_FALSE(Window.F20.Visible);
 }
 
+TEST_F(Input, WhatTabOrTheProgramBringsIntoFocusMakesWayForTheNextKey) {
+  Window.State.game.Players[1] = {.Name = "Bo", .BonusPoints = 12};
+  Type(Window.F1, Qt::Key_F1, Qt::ShiftModifier);
+  Type(Window.F5, Qt::Key_Home);
+  QKeyEvent greek(QEvent::KeyPress, Qt::Key_unknown, {}, "α");  // which no file holds
+  QApplication::sendEvent(WindowOf(Window.F5).windowHandle(), &greek);
+  for (const Qt::Key key : {Qt::Key_A, Qt::Key_Tab, Qt::Key_7}) Type(Window.F5, key);
+  EXPECT_EQ(Window.State.game.Players[1].Name, "aBo");
+  EXPECT_EQ(Window.State.game.Players[1].Settlements, 7);
+  for (const Qt::Key key : {Qt::Key_Backspace, Qt::Key_3}) Type(Window.F5, key);
+  EXPECT_EQ(Window.State.game.Players[1].Settlements, 3);
+}
+
 TEST_F(Input, MarksFollowTheModel) {
   Window.F20.OpenNewGame();
   Click(Window.F20.chkFlo);
