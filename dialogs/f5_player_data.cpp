@@ -97,6 +97,7 @@ F5::F5(const windows::Context& context)
 }
 
 void F5::SetCaptions() {
+  Caption = state().Text(46);
   for (int row = 0; row < kRows; ++row) {
     const std::string& name = state().Text(kFirstText + row);
     lblData(row).Caption = txtData(row).SpokenName = name;

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QTextOption>
 
 #include "../form.h"
 #include "button_widget.h"
@@ -79,6 +80,7 @@ void WidgetBuilder::Visit(TextBox& box) {
     auto* widget = new QPlainTextEdit(parent_);
     widget->setReadOnly(box.ReadOnly);
     widget->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    widget->setWordWrapMode(QTextOption::WordWrap);  // a word without an end would be broken for minutes
     return Adopt(box, widget);
   }
   auto* widget = new QLineEdit(parent_);
