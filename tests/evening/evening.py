@@ -9,6 +9,7 @@ import sys
 import time
 import traceback
 
+import dialog_scenes
 import game_scenes
 import roll_scenes
 import start_scenes
@@ -16,7 +17,7 @@ from virtual_screen import Failure, Program, Screen, end_by_itself
 
 TIME_LIMIT = 200  # seconds for all scenes
 
-SCENES = (*roll_scenes.SCENES, *game_scenes.SCENES, *start_scenes.SCENES)
+SCENES = (*roll_scenes.SCENES, *game_scenes.SCENES, *dialog_scenes.SCENES, *start_scenes.SCENES)
 
 
 def play(scene, screen, executable, folder):
