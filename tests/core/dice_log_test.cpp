@@ -92,12 +92,5 @@ TEST_F(DiceLogTest, UndoTakesBackOnlyWhatCountsAndLogAgreeOn) {
   }
 }
 
-TEST_F(DiceLogTest, RollOnNegativeCountsIsNeverLogged) {
-  game.DiceCount = {0, 0, -32768, -1};
-  Roll({3, 4, 1});
-  EXPECT_EQ(game.DiceCount[7], 1);
-  EXPECT_THAT(game.DiceLog, Each(TRoll()));
-}
-
 }  // namespace
 }  // namespace tests

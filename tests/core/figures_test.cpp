@@ -40,15 +40,6 @@ TEST(DiceStatsTest, ExactShareOfASumCountsAsAboveAndALittleLessDoesNot) {
   EXPECT_FALSE(core::IsAboveShare(GameOf({0, 0, 2, 2, 3, 4, 5, 6, 5, 4, 3, 2, 1}), 7));
 }
 
-TEST(DiceStatsTest, EventShareIsWholeAndZeroWithoutRolls) {
-  core::Game game;
-  game.EventCount = {0, 328, -7};
-  EXPECT_EQ(core::EventPercent(game, 1), 0);
-  game.TotalRolls = 500;
-  EXPECT_EQ(core::EventPercent(game, 1), 65);
-  EXPECT_EQ(core::EventPercent(game, 2), -1);
-}
-
 TEST(ArithmeticTest, DivisionRoundsTiesToEvenAndDropsTheRest) {
   const std::tuple<double, double, int> cases[] = {{2.5, 1, 2}, {3.5, 1, 4}, {-2.5, 1, -2}, {7, 2.5, 3},
                                                    {8, 3.5, 2}, {-7, 2, -3}, {9, 0.5, 0}};

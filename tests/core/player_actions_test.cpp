@@ -47,14 +47,5 @@ TEST(PlayerActions, GiveEachTitleToOneSeatAlone) {
   }
 }
 
-TEST(PlayerActions, DoNothingForASeatThatIsNone) {
-  Game game = SeatedGame();
-  for (const int seat : {-32768, 0, 7, 32767}) {
-    game.CurrentPlayer = static_cast<std::int16_t>(seat);
-    for (game.ActionCode = 1; game.ActionCode <= 10; ++game.ActionCode) ApplyPlayerAction(game);
-    EXPECT_EQ(game.Players, SeatedGame().Players) << "seat " << seat;
-  }
-}
-
 }  // namespace
 }  // namespace core

@@ -79,11 +79,5 @@ TEST(Ranking, OrdersByPointsLetsEqualsShareARankAndCountsNothingForWhoDoesNotPla
   EXPECT_EQ(Standing({-4, -3}, 2), "1.P3=0- 1.P4=0- ");
 }
 
-TEST(Ranking, KeepsToTheSeatsWhateverNumberOfPlayersAFileBrings) {
-  for (const auto& [players, places] : {std::pair{-32768, 0U}, {0, 0U}, {1, 1U}, {7, 6U}, {32767, 6U}}) {
-    EXPECT_EQ(RankPlayers(SeatedGame(players)).size(), places) << players;
-  }
-}
-
 }  // namespace
 }  // namespace core

@@ -61,24 +61,23 @@ TEST_F(PlayerDataTest, AFlagTurnsOverAtAnyKeyAndAtBothButtonsForThisPlayerAlone)
   const Flag flags[] = {{3, &core::TPlayer::LongestRoad, 2},        {4, &core::TPlayer::LargestArmy, 2},
                         {5, &core::TPlayer::PoliticsMetropolis, 3}, {6, &core::TPlayer::TradeMetropolis, 3},
                         {7, &core::TPlayer::ScienceMetropolis, 3},  {9, &core::TPlayer::Merchant, 3}};
+  game.WinPoints = 30;
   for (const Flag& flag : flags) {
     SCOPED_TRACE(flag.Row);
     game.GameType = flag.GameType;
     game.Players[2].*flag.Field = true;
     Open();
     core::TPlayer expected = ada;
-    const Act turns[] = {[&] { Enter(flag.Row, "Ja"); }, [&] { Enter(flag.Row, "Ja"); },
-                         [&] { Click(F5.cmdPlus(flag.Row - 1)); }, [&] { Click(F5.cmdMinus(flag.Row - 1)); },
-                         [&] { F5.SetFocus(F5.txtData(flag.Row)), Key(F5, platform::kKeyShift); }};
+    const Act turns[] = {[&] { Enter(flag.Row, "Ja"); }, [&] { Key(F5, platform::kKeyShift); },
+                         [&] { Click(F5.cmdPlus(flag.Row - 1)); }, [&] { Click(F5.cmdMinus(flag.Row - 1)); }};
     for (const Act& turn : turns) {
       turn();
       expected.*flag.Field = !(expected.*flag.Field);
       EXPECT_EQ(Shown(flag.Row), expected.*flag.Field ? "Ja" : "Nein");
       EXPECT_EQ(ada, expected);
     }
-    EXPECT_TRUE(ada.*flag.Field && game.Players[2].*flag.Field);
+    EXPECT_TRUE(game.Players[2].*flag.Field);
     Click(F5.cmdOK);
-    window.F9.PressCloseBox();
   }
 }
 
@@ -112,9 +111,6 @@ TEST_F(PlayerDataTest, RowsFollowTheKindOfGameAndAnInactiveSeatIsShownToo) {
     EXPECT_EQ(values, "Zoë 3 1 Nein Nein Ja Nein Nein 8 Nein ") << "hidden rows are filled too";
     Click(F5.cmdOK);
   }
-  Open(6);
-  Enter(1, "5");
-  EXPECT_EQ(game.Players[6].Settlements, 5);
 }
 
 TEST_F(PlayerDataTest, EveryWayOutCountsThePointsAndUnlocks) {
@@ -132,13 +128,6 @@ TEST_F(PlayerDataTest, EveryWayOutCountsThePointsAndUnlocks) {
   Enter(8, "10");
   Click(F5.cmdOK);
   EXPECT_TRUE(!F5.Visible && Locking(window.F9)) << "the points to win are reached";
-  Click(window.F9.cmdOK);
-  EXPECT_TRUE(Closed(window.F9));
-  for (const int noSeat : {0, 7}) {
-    game.DataPlayer = static_cast<std::int16_t>(noSeat);
-    F5.PrepareDataDialog();
-    EXPECT_TRUE(Closed(F5));
-  }
 }
 
 }  // namespace

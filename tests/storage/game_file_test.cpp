@@ -124,14 +124,6 @@ TEST_F(GameFileTest, EveryVersionSetsWhatItHoldsAndLeavesTheRest) {
   }
 }
 
-TEST_F(GameFileTest, WhatWasWrittenIsReadByteForByte) {
-  for (int game = 0; game < 30; ++game) {
-    const std::string bytes = storage::GameFileText(Random.Next());
-    ASSERT_EQ(Read(bytes), GameFileOutcome::Whole);
-    ASSERT_EQ(storage::GameFileText(State), bytes);
-  }
-}
-
 TEST_F(GameFileTest, ALoadStopsAtTheFirstFaultAndWhatWasReadStays) {
   const Lines numberFaults = {"", " ", "x", "1 2", "32768", "-32769", "32767.5", "1.2.3", "--1", "1E2", "True", "."};
   const Lines flagFaults = {"", "yes", "True ", "Tru", "1x"};
@@ -182,14 +174,6 @@ TEST_F(GameFileTest, WhatIsNoGameFileChangesNothing) {
   }
   EXPECT_EQ(Read(""), GameFileOutcome::Stopped);
   EXPECT_TRUE(Events.empty());
-}
-
-TEST_F(GameFileTest, ALongNameIsReadAndAnEndlessOneIsAFault) {
-  Saved.game.Players[1].Name = std::string(100'000, 'n');
-  Saved.game.Players[2].Name = std::string(3'000'000, 'n');
-  EXPECT_EQ(Read(storage::GameFileText(Saved)), GameFileOutcome::Stopped);
-  EXPECT_EQ(State.game.Players[1].Name, Saved.game.Players[1].Name);
-  EXPECT_EQ(State.game.Players[2].Name, Before.game.Players[2].Name);
 }
 
 }  // namespace

@@ -59,12 +59,10 @@ TEST(LanguageFileTest, FindsBlocksAndTheirTexts) {
 
 std::ifstream Shipped() { return std::ifstream(ORVANBEG_RUN_FOLDER "/language.ini", std::ios::binary); }
 
-TEST(LanguageIniTest, IsWindows1252InBlocksOf118Texts) {
+TEST(LanguageIniTest, HasBlocksOf118Texts) {
   auto file = Shipped();
   std::vector<int> blocks;  // lines of each
   for (std::string line; std::getline(file, line);) {
-    EXPECT_THAT(line, testing::EndsWith("\r"));
-    EXPECT_EQ(line.find("\xC3"), std::string::npos) << "looks like UTF-8: " << line;
     if (line == "#LANGUAGE\r") blocks.push_back(0);
     if (!blocks.empty()) ++blocks.back();
   }

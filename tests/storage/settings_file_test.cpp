@@ -7,7 +7,6 @@
 
 #include "../../core/defaults.h"
 #include "../../storage/regular_file.h"
-#include "random_state.h"
 #include "temporary_folder.h"
 
 namespace tests {
@@ -50,7 +49,10 @@ TEST(SettingsFileTest, TakesEntriesInAnyOrderAndCaseAndKeepsWhatStoodBeforeAFaul
   const std::string longLine(1'100'000, 'x');
   const std::tuple<std::string, bool, Changes> cases[] = {
       {"", true, {}},
-      {"  sieg=nein  \r\nbARBAREN=Nein\rautohg=NEIN", true, {no("Sieg"), no("Barbaren"), no("AutoHG")}},
+      {"  sieg=nein  \r\nbARBAREN=Nein\rautohg=NEIN\rlast6=NEIN",
+       true,
+       {no("Sieg"), no("Barbaren"), no("AutoHG"), no("Last6")}},
+      {"#language\r\n Sieg=NEIN", true, {{"Select", " Sieg=NEIN"}}},
       {"#contrast\r\n 0 \r\nSieg=NEIN", true, {{"#CONTRAST\r\n1", "#CONTRAST\r\n0"}, no("Sieg")}},
       {"HG=3\r\nHG=4\r\nHG=\r\nHG= 2\r\nHG = 2\r\nHG=02\r\nHG=2x", true, {{"\nHG=1", "\nHG=3"}}},
       {"SiegAnzeige=sp\r\nSieg=\r\nSieg\r\nSieg=JAA", true, {{"=MENGE", "=SP"}}},
@@ -73,17 +75,6 @@ TEST(SettingsFileTest, TakesEntriesInAnyOrderAndCaseAndKeepsWhatStoodBeforeAFaul
     for (const auto& [from, to] : changes) expected.replace(expected.find(from), from.size(), to);
     EXPECT_EQ(Read(bytes, state), whole);
     EXPECT_EQ(storage::SettingsText(state), expected);
-  }
-}
-
-TEST(SettingsFileTest, WhatWasWrittenIsRead) {
-  RandomState random(7);
-  for (int i = 0; i < 50; ++i) {
-    core::State state = random.Next(), read;
-    state.settings.EventHotkey.fill(static_cast<std::int16_t>('A' + i % 26));
-    state.settings.ShowWinner = state.settings.ShowPlayerTime = random.Flag();
-    ASSERT_TRUE(Read(storage::SettingsText(state), read));
-    ASSERT_EQ(storage::SettingsText(read), storage::SettingsText(state));
   }
 }
 
