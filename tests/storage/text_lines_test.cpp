@@ -28,12 +28,16 @@ TEST(CodePageTest, CharactersHaveTheBytesOfWindows1252AndAllBytesSurvive) {
 
 TEST(LineReaderTest, LinesEndWhereTheKindOfFileSays) {
   using enum storage::LineFeeds;
-  const std::tuple<const char*, storage::LineFeeds, std::vector<std::string>> cases[] = {
+  const std::string piece(16'383, 'x');  // with its carriage return as long as what is read at once
+  const std::tuple<std::string, storage::LineFeeds, std::vector<std::string>> cases[] = {
       {"", EndLines, {}},
       {"a\r\n\r\nb\r\n", EndLines, {"a", "", "b"}},
       {"a\rb\nunfinished", EndLines, {"a", "b", "unfinished"}},
       {"a\n\rb", EndLines, {"a", "", "b"}},
-      {"a\nb\r\nc\rW\xFCrfe\r\n", PartOfLine, {"a\nb", "c", "Würfe"}}};
+      {"a\nb\r\nc\rW\xFCrfe\r\n", PartOfLine, {"a\nb", "c", "Würfe"}},
+      {piece + "\r\n" + piece + "y\r\n\n" + piece + piece + "\r",
+       PartOfLine,
+       {piece, piece + "y", "\n" + piece + piece}}};
   for (const auto& [bytes, mode, expected] : cases) {
     std::istringstream file(bytes);
     storage::LineReader reader(file, mode);
