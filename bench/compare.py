@@ -16,6 +16,7 @@ from virtual_screen import CLIENT_HEIGHT, Failure, Program, Screen, end_by_itsel
 
 KEYS = 6            # pressed in each run
 SETTLED = 0.5       # seconds without a change after which a frame was the last one
+FIRST_DIGITS = 12   # seconds until each digit of the clock has been drawn once
 IDLE_SECONDS = 10
 CHART_ROWS = range(170, 400, 12)  # of the client area
 CHART_LEFT, CHART_WIDTH = 8, 609
@@ -104,7 +105,7 @@ class Side(Program):
         self.launch()
         time.sleep(1)
         hands.tap("F7")  # the clock of the program; to the bare window a key like any other
-        time.sleep(2)
+        time.sleep(FIRST_DIGITS)
         before = self.spent()
         time.sleep(IDLE_SECONDS)
         spent, wakeups = (after - start for after, start in zip(self.spent(), before))
