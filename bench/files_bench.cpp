@@ -14,18 +14,14 @@
 #include "../storage/game_file_reader.h"
 #include "../storage/regular_file.h"
 #include "../storage/safe_file.h"
+#include "games.h"
 
 namespace {
 
 core::State GameWithRolls(int rolls) {
   core::State state;
   core::SetDefaults(state);
-  for (int i = 1; i <= rolls; ++i) {
-    core::TRoll& roll = state.game.DiceLog[static_cast<std::size_t>(i)];
-    roll.Die1 = static_cast<std::int16_t>(i % 6 + 1);
-    roll.Die2 = static_cast<std::int16_t>(i / 6 % 6 + 1);
-    ++state.game.DiceCount[static_cast<std::size_t>(roll.Die1 + roll.Die2)];
-  }
+  bench::AddRolls(state.game, rolls);
   return state;
 }
 
