@@ -93,7 +93,7 @@ class MainWindow : public core::Screen, private storage::GameFileEvents {
   Started LoadLanguage();
   bool ReadLanguageList();
   void ReadTexts();
-  void TellOfBlock(int count);
+  void TellOfBlock(const std::string& file, int count);
   void SetCaptions();
   void ShowClockCaption();
 

@@ -24,7 +24,7 @@ constexpr const char* kAllFiles = " (*.*)|*.*";
 /// Shows the file dialog; false if no file was chosen.
 bool MainWindow::ChooseFile(int titleText, std::string filter, int flags) {
   cmdLS_.Filter = std::move(filter);
-  cmdLS_.InitDir = services_.ProgramFolder().string();
+  cmdLS_.InitDir = context_.Places().FirstFolder().string();
   cmdLS_.DialogTitle = platform::WithoutMnemonic(State.Text(titleText));
   cmdLS_.Flags = flags;
   return services_.ChooseFile(cmdLS_) && !cmdLS_.FileName.empty();
@@ -62,8 +62,7 @@ bool MainWindow::ChooseBackground() {
 
 /// The theme stays the first one where the file cannot be read to its end.
 void MainWindow::LoadSettings() {
-  const auto path = storage::SettingsToRead(services_.ProgramFolder(), services_.ConfigurationFolder());
-  std::ifstream file = storage::OpenRegularFile(path);
+  std::ifstream file = storage::OpenRegularFile(context_.Places().SettingsToRead());
   const bool whole = file.is_open() && storage::ReadSettings(file, State);
   F8.TickClocksAndContrast();
   if (whole) LoadThemeImages(State.settings.AutoHG.IsOff() ? 1 : State.settings.HG);
@@ -74,7 +73,7 @@ void MainWindow::LoadSettings() {
 void MainWindow::SaveSettings() {
   const std::string title = platform::WithoutMnemonic(State.Text(7));
   if (services_.MessageBox(State.Text(101), title, platform::Buttons::YesNo) == platform::Answer::No) return;
-  const auto path = storage::SettingsPath(services_.ProgramFolder(), services_.ConfigurationFolder());
+  const auto path = context_.Places().SettingsFile();
   if (!storage::WriteSettings(path, State)) {
     services_.MessageBox("Die Einstellungen konnten nicht gespeichert werden:\n" + path.string() +
                          "\n\nThe settings could not be saved:\n" + path.string());

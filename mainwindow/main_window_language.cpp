@@ -8,11 +8,6 @@
 #include "main_window.h"
 
 namespace mainwindow {
-namespace {
-
-constexpr const char* kLanguageFile = "language.ini";
-
-}  // namespace
 
 /// At the first run the settings dialog asks for a language; its OK comes here again and does the rest.
 Started MainWindow::LoadLanguage() {
@@ -30,7 +25,7 @@ Started MainWindow::LoadLanguage() {
 
 /// False if the file holds no language: the user is told, and the languages known so far stay.
 bool MainWindow::ReadLanguageList() {
-  const auto path = services_.ProgramFolder() / kLanguageFile;
+  const auto path = context_.Places().LanguageFile();
   std::ifstream file = storage::OpenRegularFile(path);
   core::Language found = State.language;
   if (storage::ListLanguages(file, found) == 0) {
@@ -44,17 +39,17 @@ bool MainWindow::ReadLanguageList() {
 }
 
 void MainWindow::ReadTexts() {
-  std::ifstream file = storage::OpenRegularFile(services_.ProgramFolder() / kLanguageFile);
+  const auto path = context_.Places().LanguageFile();
+  std::ifstream file = storage::OpenRegularFile(path);
   const int count = storage::LoadTexts(file, State.language);
-  if (count < core::kTexts) TellOfBlock(count);
+  if (count < core::kTexts) TellOfBlock(path.string(), count);
 }
 
-void MainWindow::TellOfBlock(int count) {
+void MainWindow::TellOfBlock(const std::string& file, int count) {
   const std::string& name = State.language.Languages[0];
   const std::string figures = std::to_string(std::max(count, 0)) + " / " + std::to_string(core::kTexts);
-  services_.MessageBox("Die Sprache \"" + name + "\" ist in " + kLanguageFile + " unvollständig: " + figures +
-                       " Texte.\n\nThe language \"" + name + "\" is incomplete in " + kLanguageFile + ": " + figures +
-                       " texts.");
+  services_.MessageBox("Die Sprache \"" + name + "\" ist unvollständig, " + figures + " Texte in\n" + file +
+                       "\n\nThe language \"" + name + "\" is incomplete, " + figures + " texts in\n" + file);
 }
 
 void MainWindow::SetCaptions() {

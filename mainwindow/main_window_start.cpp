@@ -31,8 +31,8 @@ Started MainWindow::Load() {
 }
 
 void MainWindow::SetWorkingFolder() {
-  std::error_code ignored;  // where it cannot be entered, the files beside the program cannot be read either
-  std::filesystem::current_path(services_.ProgramFolder(), ignored);
+  std::error_code ignored;  // where it cannot be entered, the program's files cannot be read either
+  std::filesystem::current_path(context_.Places().ProgramFiles(), ignored);
 }
 
 void MainWindow::CentreDialogs() {

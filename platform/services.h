@@ -59,7 +59,7 @@ class Services {
   /// A random number, at least 0 and below 1.
   virtual double Random() = 0;
 
-  /// The folder that holds the running program and the files that stand beside it.
+  /// The folder that holds the running program.
   virtual std::filesystem::path ProgramFolder() = 0;
 
   /// Today's date in the system's short form.
@@ -67,6 +67,9 @@ class Services {
 
   /// The folder for the user's own settings of all programs.
   virtual std::filesystem::path ConfigurationFolder() = 0;
+
+  /// The folder for the user's own documents; the home folder where there is none.
+  virtual std::filesystem::path DocumentsFolder() = 0;
 
   /// The system's decimal separator, "." or "," as a rule.
   virtual std::string DecimalSeparator() = 0;

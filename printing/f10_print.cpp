@@ -77,13 +77,13 @@ bool F10::PrintGame(const std::string& printer) {
   platform::Surface page;
   DrawGameReport(state(), context_.services.DecimalSeparator(), page);
   if (printer != kPdfEntry) return context_.services.Print(printer, page);
-  FileDialog dialog{.Filter = kPdfFilter,
-                    .InitDir = context_.services.ProgramFolder().string(),
-                    .DialogTitle = platform::WithoutMnemonic(state().Text(6)),
-                    .Flags = FileDialog::kAskBeforeOverwriting | FileDialog::kPathMustExist,
-                    .FileName = {}};
-  if (!context_.services.ChooseFile(dialog) || dialog.FileName.empty()) return true;
-  return context_.services.PrintToFile(dialog.FileName, page);
+  pdf_ = {.Filter = kPdfFilter,
+          .InitDir = context_.Places().FirstFolder().string(),
+          .DialogTitle = platform::WithoutMnemonic(state().Text(6)),
+          .Flags = FileDialog::kAskBeforeOverwriting | FileDialog::kPathMustExist,
+          .FileName = pdf_.FileName};
+  if (!context_.services.ChooseFile(pdf_) || pdf_.FileName.empty()) return true;
+  return context_.services.PrintToFile(pdf_.FileName, page);
 }
 
 }  // namespace printing

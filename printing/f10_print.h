@@ -30,6 +30,7 @@ class F10 : public windows::Dialog {
   std::vector<std::string> printers_;  ///< in the order of the list
   std::string current_;                ///< used last; empty: none yet
   int printerIndex_ = 0;               ///< the place in the list of the printer to use
+  platform::FileDialog pdf_;           ///< keeps the name chosen last
 };
 
 }  // namespace printing

@@ -10,8 +10,6 @@
 namespace storage {
 namespace {
 
-constexpr const char* kFileName = "orvanbeg.ini";
-constexpr const char* kFolderName = "orvanbeg";  // below the configuration folder
 constexpr const char* kHeader[] = {"ORVANBEG.INI", "*", "Please do NOT change the contents of this file !",
                                    "Bitte ändern Sie diese Zeilen nicht von Hand.", "*"};
 
@@ -53,22 +51,6 @@ std::string SettingsText(const core::State& state) {
   entries.Header();
   SettingsEntries(entries, state);
   return entries.Bytes();
-}
-
-std::filesystem::path SettingsPath(const std::filesystem::path& programFolder,
-                                   const std::filesystem::path& configurationFolder) {
-  const auto beside = programFolder / kFileName;
-  const auto own = configurationFolder / kFolderName / kFileName;
-  std::error_code unknown;
-  const bool writtenElsewhere = !std::filesystem::exists(beside, unknown) && std::filesystem::exists(own, unknown);
-  return !writtenElsewhere && CanWriteWhole(beside) ? beside : own;
-}
-
-std::filesystem::path SettingsToRead(const std::filesystem::path& programFolder,
-                                     const std::filesystem::path& configurationFolder) {
-  std::error_code unknown;
-  const auto path = SettingsPath(programFolder, configurationFolder);
-  return std::filesystem::exists(path, unknown) ? path : programFolder / kFileName;
 }
 
 WriteOutcome WriteSettings(const std::filesystem::path& file, const core::State& state) {

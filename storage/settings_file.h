@@ -18,17 +18,6 @@ std::string SettingsText(const core::State& state);
 /// an entry; all that was read before stands. Called by the start-up, which has set the defaults.
 bool ReadSettings(std::istream& file, core::State& state);
 
-/// Where the file stands: in the program's folder if it can be written there, else in a folder of its own below the
-/// user's configuration folder. A file that was once written there is found again, even if the program's folder can be
-/// written later.
-std::filesystem::path SettingsPath(const std::filesystem::path& programFolder,
-                                   const std::filesystem::path& configurationFolder);
-
-/// The file to read at the start: the same, or one beside the program that can only be read, as long as the user has
-/// none.
-std::filesystem::path SettingsToRead(const std::filesystem::path& programFolder,
-                                     const std::filesystem::path& configurationFolder);
-
 /// Writes the file, and makes its folder if there is none. Called by the quit.
 WriteOutcome WriteSettings(const std::filesystem::path& file, const core::State& state);
 

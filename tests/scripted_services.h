@@ -69,6 +69,7 @@ class ScriptedServices : public platform::Services {
   double Random() override { return Next(RandomNumbers, 0.0); }
   std::filesystem::path ProgramFolder() override { return Folder; }
   std::filesystem::path ConfigurationFolder() override { return Folder / "config"; }
+  std::filesystem::path DocumentsFolder() override { return Folder / "documents"; }
   std::string Today() override { return "22.11.2026"; }
   std::string DecimalSeparator() override { return Separator; }
   void Quit(int status) override { QuitStatus = status; }

@@ -9,6 +9,7 @@
 #include "../platform/desktop.h"
 #include "../platform/form.h"
 #include "../platform/services.h"
+#include "../storage/places.h"
 
 namespace windows {
 
@@ -19,6 +20,11 @@ struct Context {
   platform::Services& services;
   platform::Desktop& desktop;
   platform::Form& F1;  ///< the main window
+
+  /// Where files stand on this machine.
+  storage::Places Places() const {
+    return {services.ProgramFolder(), services.ConfigurationFolder(), services.DocumentsFolder()};
+  }
 };
 
 class Dialog : public platform::Form {

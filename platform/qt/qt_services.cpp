@@ -124,6 +124,11 @@ std::filesystem::path QtServices::ConfigurationFolder() {
   return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation).toStdString();
 }
 
+std::filesystem::path QtServices::DocumentsFolder() {
+  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  return (QFileInfo(documents).isDir() ? documents : QDir::homePath()).toStdString();
+}
+
 std::string QtServices::Today() {
   return QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat).toStdString();
 }

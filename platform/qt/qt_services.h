@@ -22,6 +22,7 @@ class QtServices : public Services {
   double Random() override;
   std::filesystem::path ProgramFolder() override;
   std::filesystem::path ConfigurationFolder() override;
+  std::filesystem::path DocumentsFolder() override;
   std::string Today() override;
   std::string DecimalSeparator() override;
   void Quit(int status) override;

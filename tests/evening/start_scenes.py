@@ -1,10 +1,12 @@
 """Scenes that begin before the program runs: the first evening and the one after it, a missing language file, a program
-folder that cannot be written."""
+folder that cannot be written, an installed program."""
 import os
+import shutil
 
 from chart import expect_rolls
 from steps import (POLITICS, QUIT, SHIP, act, begin_game, choose_language, enter, expect, expect_locked, give_file,
                    quit_program, roll, save)
+from virtual_screen import wait_for
 
 NAMES = ["Ada", "Bo", "Cleo"]
 SETTINGS_LINES = 39
@@ -118,4 +120,29 @@ def a_folder_that_cannot_be_written(program):
         own.unlink(missing_ok=True)  # the scenes share the user's folder
 
 
-SCENES = (a_whole_evening_and_the_next, a_missing_language_file_is_told, a_folder_that_cannot_be_written)
+def an_installed_program(program):
+    """It is the user's: settings, saved game and a language file of their own lie in their folders, none in its own."""
+    home = program.screen.folder
+    own, documents = home / "config" / "orvanbeg", home / "Documents"
+    documents.mkdir()
+    program.install()
+    installed = sorted(program.folder.parent.rglob("*"))
+    program.launch()
+    program.wait_for_dialog()
+    choose_language(program, "English")
+    give_file(program, "s", "friday.obg")
+    wait_for((documents / "friday.obg").exists, "the game among the user's documents")
+    expect(quit_program(program) == 0, "status 0 at the end")
+    expect_settings(own / "orvanbeg.ini", "English")
+    expect(sorted(program.folder.parent.rglob("*")) == installed, "nothing written where the program is installed")
+
+    language = program.folder.parent / "share" / "orvanbeg" / "language.ini"
+    (own / "language.ini").write_bytes(language.read_bytes().replace(b"\r\nStandings\r\n", b"\r\nOur table\r\n"))
+    program.start()
+    program.screen.chord("ctrl", "t")
+    program.wait_for_title("Our table")
+    shutil.rmtree(own)  # the scenes share the user's folder
+
+
+SCENES = (a_whole_evening_and_the_next, a_missing_language_file_is_told, a_folder_that_cannot_be_written,
+          an_installed_program)

@@ -163,7 +163,7 @@ class Program:
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="program-", dir=screen.folder))
         shutil.copytree(ROOT / "run", self.folder, dirs_exist_ok=True)
         shutil.copy(executable, self.folder)
-        self._executable = pathlib.Path(executable).name
+        self._executable, self._build = pathlib.Path(executable).name, pathlib.Path(executable).parent
         self.process = self.main = None
         if language:
             self.settings.write_bytes(f"#LANGUAGE\r\n{language}\r\n".encode("cp1252"))
@@ -171,6 +171,12 @@ class Program:
     @property
     def settings(self):
         return self.folder / "orvanbeg.ini"
+
+    def install(self):
+        """From here on the program is an installed one; the place of the installation is none that it was built for."""
+        prefix = self.folder / "prefix"
+        self.screen.run("cmake", "--install", str(self._build), "--prefix", str(prefix))
+        self.folder = prefix / "bin"
 
     def move(self, folder):
         self.folder = self.folder.rename(folder)

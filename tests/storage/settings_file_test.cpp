@@ -1,4 +1,4 @@
-// The settings file: its 39 lines, what the reader makes of other files, and where it stands.
+// The settings file: its 39 lines, what the reader makes of other files.
 #include "../../storage/settings_file.h"
 
 #include <gmock/gmock.h>
@@ -78,24 +78,9 @@ TEST(SettingsFileTest, TakesEntriesInAnyOrderAndCaseAndKeepsWhatStoodBeforeAFaul
   }
 }
 
-class SettingsPathTest : public TemporaryFolder {};
+class FilesToReadTest : public TemporaryFolder {};
 
-TEST_F(SettingsPathTest, AllRunsFindTheSameFile) {
-  const auto program = Folder / "program", configuration = Folder / "configuration";
-  const auto beside = program / "orvanbeg.ini", own = configuration / "orvanbeg/orvanbeg.ini";
-  EXPECT_EQ(storage::SettingsPath(program, configuration), own) << "the program's folder cannot be written";
-  EXPECT_TRUE(storage::WriteSettings(own, AtStart()));
-  std::filesystem::create_directory(program);
-  EXPECT_EQ(storage::SettingsPath(program, configuration), own) << "where it was written before";
-  EXPECT_TRUE(storage::WriteSettings(beside, AtStart()));
-  EXPECT_EQ(Bytes(beside), storage::SettingsText(AtStart()));
-  EXPECT_EQ(storage::SettingsPath(program, configuration), beside);
-  std::filesystem::remove_all(configuration);
-  std::filesystem::remove(beside);
-  EXPECT_EQ(storage::SettingsPath(program, configuration), beside);
-}
-
-TEST_F(SettingsPathTest, FoldersAndDevicesAreNoFilesToRead) {
+TEST_F(FilesToReadTest, FoldersAndDevicesAreNoFilesToRead) {
   for (const auto& path : {Folder, Folder / "none", std::filesystem::path("/dev/zero"), std::filesystem::path()}) {
     EXPECT_FALSE(storage::OpenRegularFile(path).is_open()) << path;
   }

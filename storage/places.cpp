@@ -1,0 +1,59 @@
+#include "places.h"
+
+#include <utility>
+
+#include "safe_file.h"
+
+namespace storage {
+namespace {
+
+using std::filesystem::path;
+
+constexpr const char* kLanguageFile = "language.ini";
+constexpr const char* kSettingsFile = "orvanbeg.ini";
+constexpr const char* kOwnFolder = "orvanbeg";  // below the configuration folder
+
+bool Exists(const path& file) {
+  std::error_code unknown;
+  return std::filesystem::exists(file, unknown);
+}
+
+/// Something bears the name, be it a link that leads nowhere.
+bool IsTaken(const path& file) {
+  std::error_code unknown;
+  return std::filesystem::exists(std::filesystem::symlink_status(file, unknown));
+}
+
+/// Counted from the executable, so that an installation can be moved as a whole.
+path InstalledFiles(const path& program) { return (program / ORVANBEG_INSTALLED_FILES).lexically_normal(); }
+
+bool IsInstalled(const path& program) {
+  std::error_code unknown;
+  return !Exists(program / kLanguageFile) && std::filesystem::is_directory(InstalledFiles(program), unknown);
+}
+
+}  // namespace
+
+Places::Places(path program, path configuration, path documents)
+    : installed_(IsInstalled(program)),
+      files_(installed_ ? InstalledFiles(program) : std::move(program)),
+      own_(configuration / kOwnFolder),
+      documents_(std::move(documents)) {}
+
+path Places::LanguageFile() const {
+  const path own = own_ / kLanguageFile;
+  return installed_ && IsTaken(own) ? own : files_ / kLanguageFile;
+}
+
+path Places::SettingsFile() const {
+  const path beside = files_ / kSettingsFile, own = own_ / kSettingsFile;
+  const bool writtenElsewhere = !Exists(beside) && Exists(own);
+  return !installed_ && !writtenElsewhere && CanWriteWhole(beside) ? beside : own;
+}
+
+path Places::SettingsToRead() const {
+  const path written = SettingsFile();
+  return Exists(written) ? written : files_ / kSettingsFile;
+}
+
+}  // namespace storage
