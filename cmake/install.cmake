@@ -36,3 +36,5 @@ install(FILES ${ORVANBEG_PACKAGING}/example.orvan_begleiter.orvanbeg.metainfo.xm
 install(FILES resources/orvanbeg.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES ${ORVANBEG_PACKAGING}/orvanbeg-48.png DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/48x48/apps
   RENAME orvanbeg.png)
+
+include(${ORVANBEG_PACKAGING}/debian/package.cmake)
