@@ -1,4 +1,4 @@
-// F2, the text viewer: shows a text file that stands beside the program. It locks nothing.
+// F2, the text viewer: shows a text file that comes with the program. It locks nothing.
 #pragma once
 
 #include "../windows/dialog.h"

@@ -18,8 +18,8 @@ class Places {
   /// even to one that cannot be read.
   std::filesystem::path LanguageFile() const;
 
-  /// The settings file: beside the program if it can be written there, else in the user's folder. A file that was once
-  /// written there is found again, even if the program's folder can be written later.
+  /// The settings file. Beside a program that was not installed if it can be written there, else in the user's folder;
+  /// once written there it is found again, even if the program's folder can be written later.
   std::filesystem::path SettingsFile() const;
 
   /// The settings file to read at the start: the same, or one among the program's files that can only be read, as long

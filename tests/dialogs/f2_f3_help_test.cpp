@@ -1,4 +1,4 @@
-// The about window with its running list, and the viewer of the text files beside the program.
+// The about window with its running list, and the viewer of the text files that come with it.
 #include "../../mainwindow/main_window.h"
 #include "../drawn.h"
 #include "../scripted_services.h"
