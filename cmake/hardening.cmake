@@ -1,6 +1,7 @@
-# Flags of the compiler and the linker that leave less room to an attack; distributions ask for them. Where they bring
-# their own for a matter, theirs hold. The sanitizers watch over the same with means that do not go together with these.
-if(NOT ORVANBEG_SANITIZE AND NOT CMAKE_BUILD_TYPE STREQUAL "Debug")
+# Flags of the compiler and the linker that leave less room to an attack, for builds that optimise; distributions ask for
+# them. One that brings its own level of _FORTIFY_SOURCE keeps it. The sanitizers watch over the same with means that do
+# not go together with these.
+if(NOT ORVANBEG_SANITIZE AND CMAKE_BUILD_TYPE MATCHES "^(Rel|MinSize)")
   include(CheckPIESupported)
   check_pie_supported()
   add_compile_options(-fstack-protector-strong -Wformat -Werror=format-security)
