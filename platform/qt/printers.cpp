@@ -2,11 +2,13 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QLibrary>
 #include <QLocale>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <algorithm>
 
 #include "convert.h"
 #include "replay.h"
@@ -16,13 +18,28 @@ namespace {
 
 constexpr double kUnitsPerInch = 300;
 
-/// Draws on the whole sheet, whatever the device's own resolution.
+/// What a page takes of its sheet, in its units: hardly less than the narrower of the usual papers, and down to below
+/// the total.
+constexpr double kPageWidth = 2470;
+constexpr double kPageHeight = 1850;
+
+/// Draws on the whole sheet, the same whatever the device's own resolution; smaller only on paper that is too small.
 bool DrawPage(QPagedPaintDevice& device, const Surface& page) {
   QPainter painter;
   if (!painter.begin(&device)) return false;
-  painter.scale(device.logicalDpiX() / kUnitsPerInch, device.logicalDpiY() / kUnitsPerInch);
+  const double fitting = std::min(device.width() / kPageWidth, device.height() / kPageHeight);
+  painter.scale(std::min(device.logicalDpiX() / kUnitsPerInch, fitting),
+                std::min(device.logicalDpiY() / kUnitsPerInch, fitting));
   Replay(painter, page, kOnPaper);
   return painter.end();
+}
+
+/// The print system's own word on the job sent last, which the toolkit keeps to itself: a queue may refuse it.
+bool LastJobWasTaken() {
+  constexpr int kFirstFailure = 0x0100;
+  using LastError = int (*)();
+  const auto lastError = reinterpret_cast<LastError>(QLibrary("cups", 2).resolve("cupsLastError"));
+  return lastError == nullptr || lastError() < kFirstFailure;
 }
 
 }  // namespace
@@ -36,13 +53,15 @@ std::vector<std::string> InstalledPrinters() {
   return names;
 }
 
+/// The toolkit takes another printer for one that is gone, and its paper for that of every other.
 bool PrintOn(const std::string& printer, const Surface& page) {
-  QPrinter device(QPrinter::HighResolution);
-  device.setPrinterName(ToQt(printer));
-  if (!device.isValid()) return false;
+  const QPrinterInfo info = QPrinterInfo::printerInfo(ToQt(printer));
+  if (info.isNull() || info.state() == QPrinter::Error) return false;
+  QPrinter device(info, QPrinter::HighResolution);
+  if (const QPageSize own = info.defaultPageSize(); own.isValid()) device.setPageSize(own);
   device.setFullPage(true);
   device.setDocName(QApplication::applicationName());
-  return DrawPage(device, page) && device.printerState() != QPrinter::Error;
+  return DrawPage(device, page) && LastJobWasTaken();
 }
 
 bool WritePdf(const std::filesystem::path& file, const Surface& page) {

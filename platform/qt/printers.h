@@ -12,7 +12,8 @@ namespace platform::qt {
 /// The names of the installed printers, the system's default first.
 std::vector<std::string> InstalledPrinters();
 
-/// Prints the page, whose unit is 1/300 inch from the corner of the sheet. False if the printer does not take it.
+/// Prints the page, whose unit is 1/300 inch from the corner of the sheet. False if the printer is gone, stands still or
+/// does not take it.
 bool PrintOn(const std::string& printer, const Surface& page);
 
 /// Writes the page as a PDF file; false if the file cannot be written.
