@@ -14,7 +14,8 @@ struct FileDialog {
   std::string InitDir;
   std::string DialogTitle;
   int Flags = 0;
-  std::string FileName;  ///< with its path; empty as long as none was chosen
+  std::string DefaultExt;  ///< added to a name that is typed without an extension; empty: the name stays as typed
+  std::string FileName;    ///< with its path; empty as long as none was chosen
 };
 
 }  // namespace platform

@@ -12,7 +12,6 @@
 namespace platform {
 
 class Form;
-
 class Surface;
 
 /// The three numbers of the program's version.
@@ -47,8 +46,8 @@ class Services {
   /// Prints a page, drawn in 1/300 inch from the top left of the sheet; false if the printer does not take it.
   virtual bool Print(const std::string& printer, const Surface& page) = 0;
 
-  /// Writes the page as a PDF file; false if it cannot be written.
-  virtual bool PrintToFile(const std::filesystem::path& file, const Surface& page) = 0;
+  /// The bytes of a PDF file that holds the page.
+  virtual std::string PdfOf(const Surface& page) = 0;
 
   /// The version of the program.
   virtual Version ProgramVersion() = 0;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "../platform/mnemonic.h"
+#include "../storage/safe_file.h"
 #include "game_report.h"
 
 namespace printing {
@@ -17,10 +18,6 @@ constexpr Place kLabelPlace{480, 150, 1515, 255};
 constexpr Place kListPlace{2100, 90, 3615, 315};
 constexpr Place kPrintPlace{4140, 1590, 1575, 375};
 constexpr Place kCancelPlace{120, 1590, 1575, 375};
-
-constexpr const char* kPdfFilter = "PDF (*.pdf)|*.pdf";
-constexpr const char* kPrintingFailed = "Das Spiel konnte nicht gedruckt werden:\n";
-constexpr const char* kPrintingFailedEnglish = "\n\nThe game could not be printed:\n";
 
 }  // namespace
 
@@ -67,23 +64,35 @@ void F10::OpenPrint() {
 
 void F10::F10_cmdPrintnow_Click() {
   current_ = printers_.at(static_cast<std::size_t>(printerIndex_));
-  if (!PrintGame(current_))
-    context_.services.MessageBox(kPrintingFailed + current_ + kPrintingFailedEnglish + current_);
+  PrintGame();
   Leave();
 }
 
-/// True also where the user chooses no name for the file.
-bool F10::PrintGame(const std::string& printer) {
+void F10::PrintGame() {
   platform::Surface page;
   DrawGameReport(state(), context_.services.DecimalSeparator(), page);
-  if (printer != kPdfEntry) return context_.services.Print(printer, page);
-  pdf_ = {.Filter = kPdfFilter,
-          .InitDir = context_.Places().FirstFolder().string(),
-          .DialogTitle = platform::WithoutMnemonic(state().Text(6)),
-          .Flags = FileDialog::kAskBeforeOverwriting | FileDialog::kPathMustExist,
-          .FileName = pdf_.FileName};
-  if (!context_.services.ChooseFile(pdf_) || pdf_.FileName.empty()) return true;
-  return context_.services.PrintToFile(pdf_.FileName, page);
+  if (current_ == kPdfEntry) {
+    WritePdf(page);
+  } else if (!context_.services.Print(current_, page)) {
+    TellFailure(current_);
+  }
+}
+
+/// Nothing happens where the user chooses no name.
+void F10::WritePdf(const platform::Surface& page) {
+  pdfFile_.Filter = "PDF (*.pdf)|*.pdf";
+  pdfFile_.DefaultExt = "pdf";
+  pdfFile_.Flags = FileDialog::kAskBeforeOverwriting | FileDialog::kPathMustExist;
+  pdfFile_.InitDir = context_.Places().FirstFolder().string();
+  pdfFile_.DialogTitle = Caption;
+  if (!context_.services.ChooseFile(pdfFile_) || pdfFile_.FileName.empty()) return;
+  const auto written = storage::WriteWhole(pdfFile_.FileName, context_.services.PdfOf(page));
+  if (!written) TellFailure(pdfFile_.FileName + " (" + written.Cause.message() + ")");
+}
+
+void F10::TellFailure(const std::string& where) {
+  context_.services.MessageBox("Das Spiel konnte nicht gedruckt werden:\n" + where +
+                               "\n\nThe game could not be printed:\n" + where);
 }
 
 }  // namespace printing

@@ -6,8 +6,8 @@
 
 namespace printing {
 
-/// The entry of the list that writes a file instead of paper.
-inline constexpr const char* kPdfEntry = "PDF";
+/// The entry of the list that writes a file instead of paper. No printer bears such a name; one may well be called PDF.
+inline constexpr const char* kPdfEntry = "PDF (*.pdf)";
 
 class F10 : public windows::Dialog {
  public:
@@ -24,13 +24,15 @@ class F10 : public windows::Dialog {
 
  private:
   void ListPrinters();
-  bool PrintGame(const std::string& printer);
+  void PrintGame();
+  void WritePdf(const platform::Surface& page);
+  void TellFailure(const std::string& where);
   void F10_cmdPrintnow_Click();
 
   std::vector<std::string> printers_;  ///< in the order of the list
   std::string current_;                ///< used last; empty: none yet
   int printerIndex_ = 0;               ///< the place in the list of the printer to use
-  platform::FileDialog pdf_;           ///< keeps the name chosen last
+  platform::FileDialog pdfFile_;       ///< keeps the name chosen last
 };
 
 }  // namespace printing

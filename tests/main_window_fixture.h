@@ -1,4 +1,5 @@
-// The whole program in the model, started with the shipped language file, and verbs to play with it.
+// The whole program in the model, started with the shipped language file, verbs to play with it, and a folder to save
+// in.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -9,12 +10,13 @@
 #include "../mainwindow/main_window.h"
 #include "keyboard.h"
 #include "scripted_services.h"
+#include "storage/temporary_folder.h"
 
 namespace tests {
 
 using Act = std::function<void()>;
 
-class MainWindowTest : public testing::Test {
+class MainWindowTest : public TemporaryFolder {
  protected:
   MainWindowTest() { EXPECT_EQ(window.Load(), mainwindow::Started::Yes); }
 

@@ -28,7 +28,7 @@ class ScriptedServices : public platform::Services {
   std::function<void(platform::Form&)> WhileVisible;  ///< what the user does while a form is modal
   std::vector<platform::FileDialog> FileDialogs;      ///< as they were shown
   std::vector<std::string> Printers;
-  std::pair<std::string, platform::Surface> Printed;  ///< printer or file, and the page
+  std::pair<std::string, platform::Surface> Printed;  ///< printer and page
   bool PrinterFails = false;
   platform::Version Version{1, 0, 0};
   std::string FirstLanguage = "Deutsch";
@@ -59,9 +59,8 @@ class ScriptedServices : public platform::Services {
     Printed = {printer, page};
     return !PrinterFails;
   }
-  bool PrintToFile(const std::filesystem::path& file, const platform::Surface& page) override {
-    return Print(file.string(), page);
-  }
+  /// A page of which only the number of its steps is told.
+  std::string PdfOf(const platform::Surface& page) override { return std::to_string(page.Steps().size()); }
   platform::Version ProgramVersion() override { return Version; }
   bool CanShow(const platform::Picture& picture) override {
     return !MissingPictures.contains(picture.Name) && (picture.IsResource || exists(Folder / picture.Name));

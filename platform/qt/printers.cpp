@@ -1,7 +1,7 @@
 #include "printers.h"
 
 #include <QApplication>
-#include <QFile>
+#include <QBuffer>
 #include <QLibrary>
 #include <QLocale>
 #include <QPainter>
@@ -64,15 +64,16 @@ bool PrintOn(const std::string& printer, const Surface& page) {
   return DrawPage(device, page) && LastJobWasTaken();
 }
 
-bool WritePdf(const std::filesystem::path& file, const Surface& page) {
-  QFile target(ToQt(file.string()));
-  if (!target.open(QIODevice::WriteOnly | QIODevice::Truncate)) return false;
-  QPdfWriter device(&target);
+std::string PdfBytes(const Surface& page) {
+  QBuffer bytes;
+  bytes.open(QIODevice::WriteOnly);
+  QPdfWriter device(&bytes);
   device.setPageSize(QPageSize(QLocale::system().measurementSystem() == QLocale::ImperialUSSystem ? QPageSize::Letter
                                                                                                   : QPageSize::A4));
   device.setPageMargins(QMarginsF());
   device.setTitle(QApplication::applicationName());
-  return DrawPage(device, page) && target.flush() && target.error() == QFileDevice::NoError;
+  DrawPage(device, page);
+  return bytes.data().toStdString();
 }
 
 }  // namespace platform::qt

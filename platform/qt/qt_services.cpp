@@ -71,7 +71,7 @@ void QtServices::WaitWhileVisible(Form& form) {
   loop.exec();
 }
 
-/// The toolkit's own dialog on every desktop: a name typed without extension is used as typed.
+/// The toolkit's own dialog on every desktop: only the extension that was asked for is ever added to a name.
 bool QtServices::ChooseFile(FileDialog& dialog) {
   QFileDialog chooser(QApplication::activeWindow(), ToQt(dialog.DialogTitle), ToQt(dialog.InitDir));
   const bool open = (dialog.Flags & FileDialog::kFileMustExist) != 0;
@@ -80,6 +80,7 @@ bool QtServices::ChooseFile(FileDialog& dialog) {
   chooser.setAcceptMode(open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
   chooser.setFileMode(open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   chooser.setNameFilters(NameFilters(dialog.Filter));
+  chooser.setDefaultSuffix(ToQt(dialog.DefaultExt));
   if (QFileInfo(ToQt(dialog.FileName)).dir().exists() && !dialog.FileName.empty())
     chooser.selectFile(ToQt(dialog.FileName));
   while (chooser.exec() == QDialog::Accepted) {
@@ -99,7 +100,7 @@ std::vector<std::string> QtServices::PrinterNames() { return InstalledPrinters()
 
 bool QtServices::Print(const std::string& printer, const Surface& page) { return PrintOn(printer, page); }
 
-bool QtServices::PrintToFile(const std::filesystem::path& file, const Surface& page) { return WritePdf(file, page); }
+std::string QtServices::PdfOf(const Surface& page) { return PdfBytes(page); }
 
 Version QtServices::ProgramVersion() {
   return {ORVANBEG_VERSION_MAJOR, ORVANBEG_VERSION_MINOR, ORVANBEG_VERSION_REVISION};

@@ -16,7 +16,7 @@ class QtServices : public Services {
   bool ChooseFile(FileDialog& dialog) override;
   std::vector<std::string> PrinterNames() override;
   bool Print(const std::string& printer, const Surface& page) override;
-  bool PrintToFile(const std::filesystem::path& file, const Surface& page) override;
+  std::string PdfOf(const Surface& page) override;
   Version ProgramVersion() override;
   bool CanShow(const Picture& picture) override;
   double Random() override;

@@ -161,7 +161,7 @@ TEST_F(PrintDialogTest, TheCurrentPrinterIsFirstAndChangesByPrintingOnly) {
   const Act waysOut[] = {[&] { Click(F10.cmdPrintCancel); }, [&] { Key(F10, platform::kKeyEscape); },
                          [&] { F10.PressCloseBox(); }};
   for (const Act& leave : waysOut) {
-    EXPECT_EQ(Open(), "Laser: Laser Tinte PDF");
+    EXPECT_EQ(Open(), "Laser: Laser Tinte PDF (*.pdf)");
     F10.Pick(F10.comDruckerListe, 1);
     leave();
     EXPECT_TRUE(Closed(F10) && services.Printed.first.empty());
@@ -176,30 +176,35 @@ TEST_F(PrintDialogTest, TheCurrentPrinterIsFirstAndChangesByPrintingOnly) {
   printing::DrawGameReport(window.State, ",", report);
   EXPECT_EQ(services.Printed.second.Steps(), report.Steps());
   services.Printers = {"Laser", "Matrix", "Tinte"};
-  EXPECT_EQ(Open(), "Tinte: Tinte Laser Matrix PDF");
+  EXPECT_EQ(Open(), "Tinte: Tinte Laser Matrix PDF (*.pdf)");
   services.Printed.first.clear();
   Click(F10.cmdPrintnow);
   EXPECT_EQ(services.Printed.first, "Tinte");
   services.Printers = {"Laser"};
-  EXPECT_EQ(Open(), "Laser: Laser PDF") << "the printer is gone";
+  EXPECT_EQ(Open(), "Laser: Laser PDF (*.pdf)") << "the printer is gone";
 }
 
-TEST_F(PrintDialogTest, PdfAsksForANameAndWhatFailsIsTold) {
-  Print(2);
+TEST_F(PrintDialogTest, PdfGoesWhereTheUserWantsItAndWhatFailsIsTold) {
+  services.Printers = {"PDF"};  // a printer may well bear that name
+  Print(1);
   ASSERT_EQ(services.FileDialogs.size(), 1U);
   EXPECT_EQ(services.FileDialogs[0].Filter, "PDF (*.pdf)|*.pdf");
   EXPECT_TRUE(services.Printed.first.empty() && services.Boxes.empty()) << "no name chosen";
-  services.ChosenFile = "/folder/evening.pdf";
+  platform::Surface report;
+  printing::DrawGameReport(window.State, ",", report);
+  services.ChosenFile = (Folder / "evening.pdf").string();
   services.Printers.clear();
-  EXPECT_EQ(Open(), "PDF: PDF");
+  EXPECT_EQ(Open(), "PDF (*.pdf): PDF (*.pdf)");
   Key(F10, platform::kKeyEnter);
-  EXPECT_TRUE(Closed(F10) && services.Printed.first == "/folder/evening.pdf" && services.Boxes.empty());
-  services.Printers = {"Laser"};
+  EXPECT_TRUE(Closed(F10) && services.Boxes.empty());
+  EXPECT_EQ(Bytes(services.ChosenFile), services.PdfOf(report));
+  services.Printers = {"PDF"};
   services.PrinterFails = true;
-  for (const char* printer : {"PDF", "Laser"}) {
-    Print(printer == std::string("Laser"));
+  services.ChosenFile = Folder.string();
+  for (const std::string& where : {services.ChosenFile + " (", std::string(":\nPDF\n")}) {
+    Print(where.front() == ':');
     ASSERT_FALSE(services.Boxes.empty());
-    EXPECT_THAT(services.Boxes.back().Text, testing::HasSubstr(printer));
+    EXPECT_THAT(services.Boxes.back().Text, testing::HasSubstr(where));
     services.Boxes.clear();
   }
 }
