@@ -16,14 +16,14 @@ void Surface::Add(DrawingStep step) {
   if (OnChange) OnChange();
 }
 
-void Surface::Print(std::string text) {
-  Add(TextStep{CurrentX, CurrentY, std::move(text), ForeColor, {FontName, FontSize, FontBold}});
-}
+void Surface::Print(std::string text) { PrintAt(CurrentX, CurrentY, std::move(text)); }
 
-void Surface::PrintAt(double x, double y, std::string text) {
+void Surface::PrintAt(double x, double y, std::string text) { PrintWithin(x, y, 0, std::move(text)); }
+
+void Surface::PrintWithin(double x, double y, double room, std::string text) {
   CurrentX = x;
   CurrentY = y;
-  Print(std::move(text));
+  Add(TextStep{x, y, std::move(text), ForeColor, {FontName, FontSize, FontBold}, room});
 }
 
 void Surface::Line(double x1, double y1, double x2, double y2, Colour ink) { Add(LineStep{x1, y1, x2, y2, ink}); }

@@ -28,6 +28,7 @@ struct TextStep {
   std::string Text;
   Colour Ink;
   Font Face;
+  double Room = 0;  ///< units to the right that the text must not leave; 0: no limit
   bool operator==(const TextStep&) const = default;
 };
 
@@ -72,6 +73,8 @@ class Surface {
   /// Writes a text at the current position in the current colour and font.
   void Print(std::string text);
   void PrintAt(double x, double y, std::string text);
+  /// Writes a text that must not reach further right than so many units: a longer one is written narrower there.
+  void PrintWithin(double x, double y, double room, std::string text);
   void Line(double x1, double y1, double x2, double y2, Colour ink);
   void Box(double x1, double y1, double x2, double y2, Colour ink);
   void FillBox(double x1, double y1, double x2, double y2, Colour ink);

@@ -30,6 +30,7 @@ constexpr int kSymbolPitch = 60;
 constexpr int kHeadY = 305;
 constexpr int kSumX = 1000;
 constexpr int kCountX = 1150;
+constexpr int kCountRoom = 240;
 constexpr int kBarX = 1400;
 constexpr int kMeasuredX = 1900;
 constexpr int kTheoryX = 2200;
@@ -59,8 +60,11 @@ void DrawPlayer(const State& state, int seat, Surface& page) {
     x += kSymbolPitch;
   }
   const int points = state.game.PlayerPoints[static_cast<std::size_t>(seat)];
-  Write(page, 18, true, kMargin + 1, top + 40, player.Name);
-  Write(page, 34, true, points > 9 ? 620 : 700, top, core::PrintedNumber(points));
+  const int pointsX = points > 9 ? 620 : 700;
+  page.FontSize = 18;
+  page.FontBold = true;
+  page.PrintWithin(kMargin + 1, top + 40, pointsX - kMargin - 1, player.Name);
+  Write(page, 34, true, pointsX, top, core::PrintedNumber(points));
 }
 
 void DrawHeads(const State& state, Surface& page) {
@@ -91,7 +95,7 @@ void DrawRows(const State& state, const std::string& separator, Surface& page) {
     const auto index = static_cast<std::size_t>(sum);
     const int y = kRowsY + (sum - 1) * kRowPitch;
     Write(page, 14, false, kSumX, y, std::to_string(sum));
-    page.PrintAt(kCountX, y, std::to_string(game.DiceCount[index]) + " " + state.Text(26));
+    page.PrintWithin(kCountX, y, kCountRoom, std::to_string(game.DiceCount[index]) + " " + state.Text(26));
     page.PrintAt(kMeasuredX, y, core::PercentText(game.DicePercent[index], separator));
     page.PrintAt(kTheoryX, y, core::PlainText(core::DiceProbability[index], separator) + "%");
     DrawBars(game, sum, y, barUnit, page);

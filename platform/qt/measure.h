@@ -14,7 +14,7 @@ struct Measure {
   double unitsPerPixel = 1;
   double pixelsPerPoint = kScreenPixelsPerPoint;
   double lineWidth = 1;     ///< of outlines, in the painter's units
-  double rightEdge = 0;     ///< in the painter's units: texts are cut off with dots there; 0: never
+  double rightEdge = 0;     ///< in the painter's units: no text goes beyond; 0: any may
   double pictureScale = 1;  ///< 1: at natural size; pictures of a page are drawn as vectors at any other
 
   /// A length or place of the surface in the painter's units. Counts from a file can put a step anywhere; what lies

@@ -1,6 +1,7 @@
 #include "replay.h"
 
 #include <QFontMetricsF>
+#include <algorithm>
 
 #include "convert.h"
 #include "pictures.h"
@@ -9,8 +10,13 @@ namespace platform::qt {
 
 void StepPainter::operator()(const TextStep& step) {
   UseFace(step);
-  const double ascent = painter_.fontMetrics().ascent();
-  painter_.drawText(measure_.At(step.X, step.Y) + QPointF(0, ascent), Fitting(step));
+  const QPointF foot = measure_.At(step.X, step.Y) + QPointF(0, painter_.fontMetrics().ascent());
+  const double room = RoomFor(step);
+  if (room == 0) {
+    painter_.drawText(foot, ToQt(step.Text));
+  } else {
+    DrawWithin(room, foot, ToQt(step.Text));
+  }
 }
 
 void StepPainter::operator()(const LineStep& step) {
@@ -27,7 +33,8 @@ void StepPainter::operator()(const BoxStep& step) {
   if (step.Filled) {
     painter_.fillRect(box, ToQt(step.Ink));
   } else {
-    const double inside = measure_.lineWidth / 2;
+    // One unit of the line lies inside the box, so that what is drawn there leaves the outline whole.
+    const double inside = 1 - measure_.lineWidth / 2;
     painter_.setPen(QPen(ToQt(step.Ink), measure_.lineWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter_.setBrush(Qt::NoBrush);
     painter_.drawRect(box.adjusted(inside, inside, -inside, -inside));
@@ -49,11 +56,20 @@ void StepPainter::UseFace(const TextStep& step) {
   painter_.setFont(measure_.FaceOf(step));
 }
 
-QString StepPainter::Fitting(const TextStep& step) const {
-  const QString text = ToQt(step.Text);
-  if (measure_.rightEdge == 0) return text;
-  const double room = measure_.rightEdge - measure_.Pixel(step.X);
-  return QFontMetricsF(painter_.font(), painter_.device()).elidedText(text, Qt::ElideRight, room);
+double StepPainter::RoomFor(const TextStep& step) const {
+  if (step.Room > 0) return measure_.Pixel(step.Room);
+  return measure_.rightEdge == 0 ? 0 : measure_.rightEdge - measure_.Pixel(step.X);
+}
+
+void StepPainter::DrawWithin(double room, const QPointF& foot, const QString& text) {
+  constexpr double kNarrowest = 0.6;
+  const QFontMetricsF metrics(painter_.font(), painter_.device());
+  const double narrow = std::clamp(room / std::max(metrics.horizontalAdvance(text), 1.0), kNarrowest, 1.0);
+  const QTransform before = painter_.transform();
+  painter_.translate(foot);
+  painter_.scale(narrow, 1);
+  painter_.drawText(QPointF(), metrics.elidedText(text, Qt::ElideRight, room / narrow));
+  painter_.setTransform(before);
 }
 
 void Replay(QPainter& painter, const Surface& surface, const Measure& measure) {

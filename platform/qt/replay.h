@@ -22,7 +22,10 @@ class StepPainter {
   void UseFace(const TextStep& step);
 
  private:
-  QString Fitting(const TextStep& step) const;
+  /// 0 for a text that may go on for ever.
+  double RoomFor(const TextStep& step) const;
+  /// A text that is too long is drawn narrower, and ends with dots where it could not be read any more.
+  void DrawWithin(double room, const QPointF& foot, const QString& text);
 
   QPainter& painter_;
   const Measure& measure_;

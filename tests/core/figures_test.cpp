@@ -38,6 +38,9 @@ TEST(DiceStatsTest, ExactShareOfASumCountsAsAboveAndALittleLessDoesNot) {
   const core::Game exact = GameOf({0, 0, 1, 2, 3, 4, 5, 6, 5, 4, 3, 2, 1});
   for (int sum = 2; sum <= 12; ++sum) EXPECT_TRUE(core::IsAboveShare(exact, sum)) << sum;
   EXPECT_FALSE(core::IsAboveShare(GameOf({0, 0, 2, 2, 3, 4, 5, 6, 5, 4, 3, 2, 1}), 7));
+  core::Game itself;
+  itself.DicePercent[7] = 16.66F;
+  EXPECT_FALSE(core::IsAboveShare(itself, 7));
 }
 
 TEST(ArithmeticTest, DivisionRoundsTiesToEvenAndDropsTheRest) {

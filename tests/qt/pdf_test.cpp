@@ -24,25 +24,32 @@ TEST_F(PdfTest, TextsAndBoxesStandAtTheirPlaces) {
   struct Text {
     double X, Y, Size;
     const char* Word;
+    double Room = 0;
   };
-  const Text texts[] = {
-      {100, 100, 20, "Abend"}, {1900, 305, 14, "Größe"}, {400, 1675, 25, "36x"}, {2200, 3300, 10, "Ende"}};
+  const Text texts[] = {{100, 100, 20, "Abend"},
+                        {1900, 305, 14, "Größe"},
+                        {400, 1675, 25, "36x"},
+                        {2200, 3300, 10, "Ende"},
+                        {300, 600, 20, "Hohenstein", 350}};
   platform::Surface page;
   page.FontName = "Arial";
   for (const Text& text : texts) {
     page.FontSize = text.Size;
-    page.PrintAt(text.X, text.Y, text.Word);
+    page.PrintWithin(text.X, text.Y, text.Room, text.Word);
   }
   page.FillBox(600, 900, 1200, 1000, {0, 0, 255});
   Put(Folder / "page.pdf", platform::qt::PdfBytes(page));
 
   const QString words = QString::fromStdString(Bytes(Read("pdftotext", {"-bbox"}, "")));
   for (const Text& text : texts) {
-    const QRegularExpression line("xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" [^>]*>" + QString(text.Word));
+    const QRegularExpression line("xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" xMax=\"([0-9.]+)\" [^>]*>" +
+                                  QString(text.Word));
     const auto found = line.match(words);
     ASSERT_TRUE(found.hasMatch()) << text.Word;
     EXPECT_NEAR(found.captured(1).toDouble(), text.X * 72 / 300, 2) << text.Word;
     EXPECT_NEAR(found.captured(2).toDouble(), text.Y * 72 / 300, 2) << text.Word;
+    if (text.Room == 0) continue;
+    EXPECT_NEAR(found.captured(3).toDouble(), (text.X + text.Room) * 72 / 300, 2) << text.Word;
   }
 
   const QImage image(QString::fromStdString(Read("pdftoppm", {"-r", "75", "-png", "-singlefile"}, ".png")));
