@@ -6,7 +6,7 @@ import pathlib
 import shutil
 import sys
 
-from steps import act, begin_game, print_page, roll, save
+from steps import act, ask_for_page, begin_game, roll, save
 from virtual_screen import Program, Screen, end_by_itself
 
 TIME_LIMIT = 120  # seconds
@@ -61,7 +61,8 @@ def play(program):
     keys("Return")
     program.wait_for_main_alone()
     save(program, program.folder / "evening.obg")
-    print_page(program, program.folder / "evening.pdf")
+    ask_for_page(program, program.folder / "evening.pdf")
+    program.wait_for_main_alone()
 
     play_turns(program, AFTER.split())
     act(program, *WINS)

@@ -79,7 +79,7 @@ def save(program, path):
     return wait_for(lambda: path.exists() and path.read_bytes(), f"the file {path}")
 
 
-def print_page(program, path):
+def ask_for_page(program, path):
     """Without a printer the report goes into a PDF file, whose name is asked for."""
     program.screen.chord("ctrl", "p")
     program.wait_for_dialog()
@@ -87,8 +87,13 @@ def print_page(program, path):
     wait_for(lambda: len(program.windows()) == 3, "the file dialog above the print dialog")
     program.screen.type(str(path))
     program.screen.keys("Return")
+
+
+def print_page(program, path):
+    """Gives back the words on the page."""
+    ask_for_page(program, path)
     program.wait_for_main_alone()
-    return wait_for(lambda: path.exists() and path.read_bytes().startswith(b"%PDF"), f"the page {path}")
+    return program.screen.run("pdftotext", str(path), "-").split()
 
 
 def quit_program(program):

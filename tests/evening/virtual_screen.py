@@ -1,6 +1,6 @@
 """A virtual screen with a window manager, and the program on it. Keys and clicks come from outside, as a user's do;
 what is seen is read from the screen's pixels. Everything that is started here ends with its `with` block.
-Needs Xvfb, openbox, xdotool, xprop, xwininfo, setpriv and setxkbmap."""
+Needs Xvfb, openbox, xdotool, xprop, xwininfo, setpriv, setxkbmap and, to read a printed page, pdftotext."""
 import mmap
 import os
 import pathlib
@@ -81,7 +81,7 @@ class Screen:
             raise Failure("a free display number")
         self.environment = dict(os.environ, DISPLAY=f":{number}", HOME=str(self.folder), LANG="en_US.UTF-8",
                                 XDG_CONFIG_HOME=str(self.folder / "config"), XDG_RUNTIME_DIR=str(self.folder),
-                                QT_QPA_PLATFORM="xcb")
+                                QT_QPA_PLATFORM="xcb", CUPS_SERVER=str(self.folder / "no-printers"))
         for name in ("LC_ALL", "LANGUAGE", "WAYLAND_DISPLAY", "XAUTHORITY", "XDG_SESSION_TYPE"):
             self.environment.pop(name, None)
         with open(self.folder / "Xvfb_screen0", "rb") as file:
