@@ -28,7 +28,6 @@ void ButtonWidget::paintEvent(QPaintEvent* event) {
   const QRect below(0, top + picture.height() + kGap, width(), fontMetrics().height());
   style()->drawItemText(&painter, below, Qt::AlignCenter | Qt::TextShowMnemonic, option.palette, isEnabled(), text(),
                         QPalette::ButtonText);
-  if (hasFocus()) style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
 }
 
 QString Wrapped(const QString& caption, int width, const QFont& font) {

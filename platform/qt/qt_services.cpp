@@ -6,10 +6,12 @@
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QLocale>
 #include <QMessageBox>
 #include <QStandardPaths>
 #include <QTimer>
+#include <QTreeView>
 #include <chrono>
 
 #include "../form.h"
@@ -31,6 +33,14 @@ QStringList NameFilters(const std::string& filter) {
     filters += name + " (" + (parts[i + 1] == "*.*" ? "*" : parts[i + 1]) + ")";
   }
   return filters;
+}
+
+/// The toolkit's own columns are too narrow for a date. The names get the room that the others leave.
+void FitColumns(const QFileDialog& chooser) {
+  const auto* files = chooser.findChild<QTreeView*>("treeView");
+  if (!files) return;
+  files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
 }
 
 }  // namespace
@@ -81,6 +91,7 @@ bool QtServices::ChooseFile(FileDialog& dialog) {
   chooser.setFileMode(open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   chooser.setNameFilters(NameFilters(dialog.Filter));
   chooser.setDefaultSuffix(ToQt(dialog.DefaultExt));
+  FitColumns(chooser);
   if (QFileInfo(ToQt(dialog.FileName)).dir().exists() && !dialog.FileName.empty())
     chooser.selectFile(ToQt(dialog.FileName));
   while (chooser.exec() == QDialog::Accepted) {
