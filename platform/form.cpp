@@ -15,6 +15,24 @@ void CollectFocusable(const Container& container, std::vector<Control*>& found) 
   }
 }
 
+/// The usable option buttons among which only one can be set.
+std::vector<OptionButton*> GroupOf(const OptionButton& option) {
+  std::vector<OptionButton*> group;
+  for (Control* control : option.Parent()->Controls()) {
+    auto* sibling = dynamic_cast<OptionButton*>(control);
+    if (sibling && sibling->Usable()) group.push_back(sibling);
+  }
+  return group;
+}
+
+/// Of a group Tab stops at the button that is set; arrows reach the others.
+bool AnotherIsSet(const Control& control) {
+  const auto* option = dynamic_cast<const OptionButton*>(&control);
+  if (!option || option->Value) return false;
+  const std::vector<OptionButton*> group = GroupOf(*option);
+  return std::any_of(group.begin(), group.end(), [](const OptionButton* sibling) { return sibling->Value.Get(); });
+}
+
 CommandButton* FindButton(const Container& container, bool CommandButton::*role) {
   for (Control* control : container.Controls()) {
     auto* button = dynamic_cast<CommandButton*>(control);
@@ -140,6 +158,7 @@ void Form::PressCloseBox() {
 std::vector<Control*> Form::TabOrder() const {
   std::vector<Control*> order;
   CollectFocusable(*this, order);
+  std::erase_if(order, [this](Control* control) { return control != focus_ && AnotherIsSet(*control); });
   return order;
 }
 
@@ -159,11 +178,7 @@ void Form::SetFocus(Control& control) {
 void Form::MoveOption(int step) {
   auto* focused = dynamic_cast<OptionButton*>(Focus());
   if (!focused) return;
-  std::vector<OptionButton*> group;
-  for (Control* control : focused->Parent()->Controls()) {
-    auto* option = dynamic_cast<OptionButton*>(control);
-    if (option && option->Usable()) group.push_back(option);
-  }
+  const std::vector<OptionButton*> group = GroupOf(*focused);
   const auto at = std::find(group.begin(), group.end(), focused) - group.begin();
   const auto count = static_cast<std::ptrdiff_t>(group.size());
   OptionButton& next = *group[static_cast<std::size_t>((at + step + count) % count)];

@@ -1,7 +1,7 @@
 """What a player does again and again, as keys: choose a language, begin a game, roll, report an action, save, quit."""
 from virtual_screen import Failure, wait_for
 
-TABS_TO_FEWER_POINTS, TABS_TO_FEWER_PLAYERS, TABS_TO_FIRST_NAME = 4, 3, 3  # each from the stop before
+TABS_TO_FEWER_POINTS, TABS_TO_FEWER_PLAYERS, TABS_TO_FIRST_NAME = 3, 3, 3  # each from the stop before
 TABS_TO_START = 3  # from the last name, past title and info line
 SHIP, POLITICS = "b", "p"  # keys of the event die
 QUIT = "Quit program"
@@ -25,7 +25,7 @@ def begin_game(program, names, expansion=False, points_less=0):
     keys = program.screen.keys
     program.screen.chord("ctrl", "n")
     dialog = program.wait_for_dialog()
-    keys(*["Down"] * expansion, *["Tab"] * (TABS_TO_FEWER_POINTS - expansion), *["space"] * points_less)
+    keys(*["Down"] * expansion, *["Tab"] * TABS_TO_FEWER_POINTS, *["space"] * points_less)
     keys(*["Tab"] * (TABS_TO_FEWER_PLAYERS), *["space"] * (4 - len(names)), *["Tab"] * TABS_TO_FIRST_NAME)
     for name in names[:-1]:
         program.screen.type(name)
