@@ -27,6 +27,10 @@ constexpr int kSettlementsX = 215;
 constexpr int kLineY = 108;
 constexpr int kTotalsY = 110;
 
+// Among the icons.
+constexpr int kSettlement = 1;
+constexpr int kCity = 2;
+
 constexpr platform::Colour kSpared{130, 130, 130};  // a player who has no city to lose
 
 }  // namespace
@@ -40,16 +44,23 @@ F11::F11(const windows::Context& context)
   picShowPlayers.Ground = windows::kPaper;
   picShowPlayers.Drawing.FontSize = 12;
   picShowPlayers.Drawing.FontBold = true;
-  picSymbol(0).Image = windows::imlIcons.Image(2);
+  picSymbol(0).Image = windows::imlIcons.Image(kCity);
   picSymbol(1).Image = windows::kMetropolis;
-  picSymbol(2).Image = windows::imlIcons.Image(1);
+  picSymbol(2).Image = windows::imlIcons.Image(kSettlement);
   cmdOK.Caption = "OK";
   cmdOK.Default = true;
   cmdOK.Click = [this] { Leave(); };
   Close = [this] { Leave(); };
 }
 
-void F11::SetCaptions() { Caption = state().Text(96); }
+void F11::SetCaptions() {
+  Caption = state().Text(96);
+  picSymbol(0).SpokenName = state().Text(windows::TextOfSymbol(kCity));
+  picSymbol(2).SpokenName = state().Text(windows::TextOfSymbol(kSettlement));
+  std::string metropolises;
+  for (const int symbol : {3, 4, 5}) metropolises += state().Text(windows::TextOfSymbol(symbol)) + " ";
+  picSymbol(1).SpokenName = metropolises;
+}
 
 void F11::ShowAttack() {
   Visible = true;
@@ -60,6 +71,7 @@ void F11::ShowAttack() {
     DrawRow(state().game.Players[static_cast<std::size_t>(seat)], (seat - 1) * kRowHeight);
   }
   DrawTotals();
+  picShowPlayers.SpokenName = picShowPlayers.Drawing.Spoken();
 }
 
 void F11::DrawRow(const core::TPlayer& player, int y) {

@@ -7,13 +7,12 @@
 #include "../platform/mnemonic.h"
 #include "../storage/code_page.h"
 #include "../windows/form_metrics.h"
-#include "../windows/image_lists.h"
+#include "../windows/game_status.h"
 
 namespace dialogs {
 namespace {
 
 using platform::Place;
-using windows::imlGameType;
 using windows::Repeat;
 
 constexpr int kClientWidth = 5760;
@@ -48,7 +47,6 @@ constexpr auto kStatusPictures = Repeat<4>({4650, 210, 720, 720}, 0, 780);
 constexpr int kFewestWinPoints = 2;
 constexpr int kMostWinPoints = 99;
 constexpr int kFewestPlayers = 2;
-constexpr int kMorePlayersFrom = 5;  // with a picture of their own
 
 /// One more or one fewer than the number in a read-only field, within bounds.
 int Stepped(const platform::TextBox& field, int index, int lowest, int highest) {
@@ -69,6 +67,13 @@ void MakeNumberField(platform::TextBox& field, const char* text) {
   field.ReadOnly = true;
   field.Align = platform::Alignment::Centre;
   field.Text = text;
+}
+
+/// For a screen reader: the field bears no caption, and "-" and "+" do not tell of what.
+void NameSteps(const std::string& name, platform::TextBox& field,
+               const platform::ControlArray<platform::CommandButton>& buttons) {
+  field.SpokenName = name;
+  for (int index = 0; index < 2; ++index) buttons(index).SpokenName = name + " " + buttons(index).Caption.Get();
 }
 
 core::CheckValue Ticked(const platform::CheckBox& box) {
@@ -141,8 +146,8 @@ void F20::SetCaptions() {
   }
   txtSpieltitel.SpokenName = lblC.Caption;
   txtSpielinfo.SpokenName = lblD.Caption;
-  txtneuSPBed.SpokenName = lblSiegbed.Caption;
-  txtNOP.SpokenName = lblB.Caption;
+  NameSteps(lblSiegbed.Caption, txtneuSPBed, cmdA);
+  NameSteps(lblB.Caption, txtNOP, cmdB);
 }
 
 void F20::OpenNewGame() {
@@ -159,16 +164,17 @@ void F20::OpenNewGame() {
 
 /// Every click on any of the four controls brings the points to win back to those of the kind of game.
 void F20::UpdateGameOptions() {
-  if (optA.Value) {
-    picGameStatus(0).Image = imlGameType.Image(1);
-    txtneuSPBed.Text = std::string("10");
-  }
-  if (optB.Value) {
-    picGameStatus(0).Image = imlGameType.Image(2);
-    txtneuSPBed.Text = std::string("13");
-  }
-  picGameStatus(1).Image = chkFlo.Value == 1 ? imlGameType.Image(3) : platform::Picture{};
-  picGameStatus(2).Image = chkSzen.Value == 1 ? imlGameType.Image(5) : platform::Picture{};
+  txtneuSPBed.Text = std::string(optB.Value ? "13" : "10");
+  ShowStatus();
+}
+
+void F20::ShowStatus() {
+  windows::ShowGameStatus(picGameStatus,
+                          {.BaseGame = !optB.Value,
+                           .Flottillen = chkFlo.Value == 1,
+                           .Scenario = chkSzen.Value == 1,
+                           .Players = NumberIn(txtNOP)},
+                          state());
 }
 
 void F20::UpdatePlayerFields(int count) {
@@ -177,7 +183,7 @@ void F20::UpdatePlayerFields(int count) {
     lblSpieler(i).Visible = i < count;
     txtSpielername(i).Visible = i < count;
   }
-  picGameStatus(3).Image = count >= kMorePlayersFrom ? imlGameType.Image(4) : platform::Picture{};
+  ShowStatus();
 }
 
 void F20::F20_cmdA_Click(int index) {

@@ -46,6 +46,7 @@ class F20 : public windows::Dialog {
  private:
   void WireEvents();
   void UpdateGameOptions();
+  void ShowStatus();
   void UpdatePlayerFields(int count);
   void F20_cmdA_Click(int index);
   void F20_cmdB_Click(int index);

@@ -30,7 +30,7 @@ F2::F2(const windows::Context& context)
 
 void F2::ShowFile(const std::string& name) {
   txtInfo.Text = std::string();
-  Caption = "Orvan Begleiter Readme";
+  Caption = txtInfo.SpokenName = "Orvan Begleiter Readme";
   std::ifstream file = storage::OpenRegularFile(context_.Places().ProgramFiles() / name);
   if (!file.is_open()) return;
   storage::LineReader reader(file, storage::LineFeeds::EndLines);

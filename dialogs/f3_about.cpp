@@ -60,7 +60,7 @@ F3::F3(const windows::Context& context)
   picLogo.Image = windows::kLogo;
   picLogo.Opaque = false;
   picFlash.Ground = windows::kPaper;
-  lblPN.Caption = "Orvan Begleiter";
+  lblPN.Caption = picLogo.SpokenName = "Orvan Begleiter";
   lblPN.Face = platform::Font{"Verdana", 9.75, true};
   lblCopyr.Caption = "© 2026 Orvan Begleiter";
   cmdShowReadme.Caption = "Readme.txt";
@@ -93,6 +93,7 @@ void F3::F3_timClock_Timer() {
   for (const Piece& piece : kList) {
     if (piece.Step == step) picFlash.Drawing.PrintAt(piece.X, piece.Y, piece.Text);
   }
+  picFlash.SpokenName = picFlash.Drawing.Spoken();
 }
 
 }  // namespace dialogs

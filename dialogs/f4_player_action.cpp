@@ -75,7 +75,9 @@ void F4::SetPictures() {
 
 void F4::SetCaptions() {
   for (int action = kFirstAction; action <= kLastAction; ++action) {
-    cmdSP(action).Caption = state().Text(kFirstText + action - 1);
+    const std::string& name = state().Text(kFirstText + action - 1);
+    cmdSP(action).Caption = name;
+    cmdSP(action).SpokenName = lblFTaste(action - 1).Caption.Get() + ": " + name;
   }
   cmdNix.Caption = state().Text(45);
 }

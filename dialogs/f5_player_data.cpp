@@ -102,6 +102,7 @@ void F5::SetCaptions() {
     const std::string& name = state().Text(kFirstText + row);
     lblData(row).Caption = txtData(row).SpokenName = name;
     if (row == 0) continue;
+    picSymbol(row - 1).SpokenName = name;
     cmdMinus(row - 1).SpokenName = name + " -";
     cmdPlus(row - 1).SpokenName = name + " +";
   }

@@ -3,13 +3,12 @@
 #include "../platform/mnemonic.h"
 #include "../storage/code_page.h"
 #include "../windows/form_metrics.h"
-#include "../windows/image_lists.h"
+#include "../windows/game_status.h"
 
 namespace dialogs {
 namespace {
 
 using platform::Place;
-using windows::imlGameType;
 
 constexpr int kClientWidth = 5175;
 constexpr int kClientHeight = 3840;
@@ -23,7 +22,6 @@ constexpr Place kSummaryPlace{120, 240, 3735, 1605};
 constexpr auto kPictures = windows::Repeat<4>({4260, 150, 720, 720}, 0, 780);
 constexpr Place kOkPlace{1770, 3390, 1755, 375};
 
-constexpr int kMostWithoutPicture = 4;  // players
 constexpr const char* kLineBreak = "\r\n";
 
 }  // namespace
@@ -76,11 +74,12 @@ std::string F6::Summary() {
 
 void F6::ShowPictures() {
   const core::Game& game = state().game;
-  const platform::Picture none;
-  picGameStatus(0).Image = imlGameType.Image(game.GameType == core::kBaseGame ? 1 : 2);
-  picGameStatus(1).Image = game.OptFlottillen.IsOff() ? none : imlGameType.Image(3);
-  picGameStatus(2).Image = game.OptScenario.IsOff() ? none : imlGameType.Image(5);
-  picGameStatus(3).Image = game.NumPlayers > kMostWithoutPicture ? imlGameType.Image(4) : none;
+  windows::ShowGameStatus(picGameStatus,
+                          {.BaseGame = game.GameType == core::kBaseGame,
+                           .Flottillen = !game.OptFlottillen.IsOff(),
+                           .Scenario = !game.OptScenario.IsOff(),
+                           .Players = game.NumPlayers},
+                          state());
 }
 
 void F6::F6_cmdOK_Click() {

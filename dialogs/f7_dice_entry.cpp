@@ -86,10 +86,22 @@ void F7::ShowHotkeys() {
   }
 }
 
+/// The language has no words for the dice: row and face in numbers, of the event die the face by its name.
+std::string F7::Spoken(int row, int face) {
+  const std::string which = std::to_string(row + 1) + ": ";
+  if (face == 0) return which + "-";
+  return which + (row == kEventRow ? state().Text(20 + face) : std::to_string(face));
+}
+
 void F7::SetCaptions() {
   Caption = state().Text(76);
   cmdNoOK.Caption = state().Text(77);
   cmdOK.Caption = state().Text(78);
+  for (int i = 0; i < 6; ++i) {
+    picSW(i).SpokenName = Spoken(kBlackRow, i + 1);
+    picRW(i).SpokenName = Spoken(kRedRow, i + 1);
+  }
+  for (int i = 0; i < core::kEventFaces; ++i) picEW(i).SpokenName = Spoken(kEventRow, i + 1);
 }
 
 /// Opens the dialog with what is entered so far.
@@ -105,6 +117,9 @@ void F7::ShowChosen() {
   picGewurfelt(kBlackRow).Image = imlW.Image(entry.Die1 > 0 ? entry.Die1 + kBeforeBlackFaces : kBlankBlack);
   picGewurfelt(kRedRow).Image = imlW.Image(entry.Die2 > 0 ? entry.Die2 : kBlankRed);
   picGewurfelt(kEventRow).Image = imlW.Image(entry.EventDie > 0 ? entry.EventDie + kBeforeEventFaces : kBlankGrey);
+  picGewurfelt(kBlackRow).SpokenName = Spoken(kBlackRow, entry.Die1);
+  picGewurfelt(kRedRow).SpokenName = Spoken(kRedRow, entry.Die2);
+  picGewurfelt(kEventRow).SpokenName = Spoken(kEventRow, entry.EventDie);
   cmdOK.Enabled = core::EntryComplete(state());
 }
 

@@ -156,7 +156,8 @@ void F8::SetCaptions() {
   txtSieger.SpokenName = state().Text(81);
   cmbHG.SpokenName = state().Text(84);
   comSelectLang.SpokenName = fraSelectLang.Caption;
-  for (int i = 0; i < core::kEventFaces; ++i) txtEWHotkey(i).SpokenName = state().Text(21 + i);
+  for (int i = 0; i < core::kEventFaces; ++i)
+    picEWShow(i).SpokenName = txtEWHotkey(i).SpokenName = state().Text(21 + i);
   cmbHG.Clear();
   for (const int text : {66, 67, 68}) cmbHG.AddItem(state().Text(text));
 }

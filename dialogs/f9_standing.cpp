@@ -24,10 +24,6 @@ constexpr Place kTablePlace{870, 1170, 7215, 1725};
 constexpr std::array<Place, 2> kOptions{{{900, 3300, 4155, 315}, {900, 2940, 4185, 315}}};
 constexpr Place kOkPlace{6930, 3180, 1935, 375};
 
-// The symbols over the columns, by kind of game.
-constexpr std::array<int, 5> kBaseHeads{1, 2, 9, 7, 8};
-constexpr std::array<int, 8> kExpansionHeads{1, 2, 9, 7, 6, 3, 4, 5};
-
 }  // namespace
 
 F9::F9(const windows::Context& context)
@@ -66,6 +62,7 @@ void F9::SetCaptions() { Caption = state().Text(86); }
 void F9::ShowStanding() {
   const std::vector<core::RankedPlayer> ranking = core::RankPlayers(state().game);
   DrawStandingTable(state(), ranking, picRanking.Drawing);
+  picRanking.SpokenName = SpokenStanding(state(), ranking);
   ShowHeadline(ranking.empty() ? std::string() : ranking.front().Name);
   ShowColumnHeads();
   SetCaptions();
@@ -82,11 +79,14 @@ void F9::ShowHeadline(const std::string& firstName) {
 void F9::ShowColumnHeads() {
   const std::int16_t gameType = state().game.GameType;
   if (gameType != core::kBaseGame && gameType != core::kFirstExpansion) return;
-  const bool expansion = gameType == core::kFirstExpansion;
-  for (std::size_t column = 0; column < kExpansionHeads.size(); ++column) {
-    platform::PictureBox& head = picSymbol(static_cast<int>(column));
-    head.Visible = expansion || column < kBaseHeads.size();
-    if (head.Visible) head.Image = windows::imlIcons.Image(expansion ? kExpansionHeads[column] : kBaseHeads[column]);
+  const std::span<const int> symbols = StandingColumns(gameType);
+  for (int column = picSymbol.First(); column <= picSymbol.Last(); ++column) {
+    platform::PictureBox& head = picSymbol(column);
+    head.Visible = static_cast<std::size_t>(column) < symbols.size();
+    if (!head.Visible) continue;
+    const int symbol = symbols[static_cast<std::size_t>(column)];
+    head.Image = windows::imlIcons.Image(symbol);
+    head.SpokenName = state().Text(windows::TextOfSymbol(symbol));
   }
 }
 

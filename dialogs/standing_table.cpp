@@ -3,10 +3,12 @@
 #include "../core/number_text.h"
 #include "../core/points.h"
 #include "../core/seats.h"
+#include "../windows/image_lists.h"
 
 namespace dialogs {
 namespace {
 
+using core::State;
 using core::TPlayer;
 using platform::Surface;
 
@@ -17,6 +19,9 @@ constexpr int kNameX = 30;
 constexpr int kPointsX = 200;
 constexpr int kFirstCellX = 248;
 constexpr int kCellPitch = 30;
+
+constexpr int kBaseColumns[] = {1, 2, 9, 7, 8};
+constexpr int kExpansionColumns[] = {1, 2, 9, 7, 6, 3, 4, 5};
 
 /// What one cell tells: how many the player holds, or whether it is held at all, and what one of them is worth.
 struct Cell {
@@ -65,20 +70,54 @@ void DrawHead(const core::RankedPlayer& ranked, int y, Surface& table) {
   table.PrintAt(kPointsX, y, core::PrintedNumber(ranked.Points));
 }
 
+/// A row finds its player by the name, so players of one name share their cells.
+std::vector<TPlayer> PlayersOf(const core::RankedPlayer& ranked, const core::Game& game) {
+  std::vector<TPlayer> found;
+  for (const TPlayer& player :
+       core::WithoutPlaceZero(game.Players).first(static_cast<std::size_t>(SeatsPlayed(game)))) {
+    if (player.Name == ranked.Name) found.push_back(player);
+  }
+  return found;
+}
+
+std::string SpokenCells(const State& state, const TPlayer& player) {
+  const std::span<const int> columns = StandingColumns(state.game.GameType);
+  const std::vector<Cell> cells = CellsOf(player, state.game.GameType);
+  std::string spoken;
+  for (std::size_t column = 0; column < cells.size(); ++column) {
+    const std::string text = TextOf(cells[column], state.settings.SiegAnzeige.IsOff());
+    if (!text.empty()) spoken += ", " + state.Text(windows::TextOfSymbol(columns[column])) + " " + text;
+  }
+  return spoken;
+}
+
 }  // namespace
 
-void DrawStandingTable(const core::State& state, const std::vector<core::RankedPlayer>& ranking, Surface& picRanking) {
+std::span<const int> StandingColumns(std::int16_t gameType) {
+  if (gameType == core::kFirstExpansion) return kExpansionColumns;
+  return kBaseColumns;
+}
+
+std::string SpokenStanding(const State& state, const std::vector<core::RankedPlayer>& ranking) {
+  std::string spoken;
+  for (const core::RankedPlayer& ranked : ranking) {
+    spoken += std::to_string(ranked.Rank) + ". " + ranked.Name + ": " + std::to_string(ranked.Points) + " ";
+    spoken += state.Text(71);
+    for (const TPlayer& player : PlayersOf(ranked, state.game)) spoken += SpokenCells(state, player);
+    spoken += "; ";
+  }
+  return spoken;
+}
+
+void DrawStandingTable(const State& state, const std::vector<core::RankedPlayer>& ranking, Surface& picRanking) {
   const core::Game& game = state.game;
   picRanking.Cls();
   int y = 1;
   for (const core::RankedPlayer& ranked : ranking) {
     DrawHead(ranked, y, picRanking);
     picRanking.FontBold = false;
-    // A row finds its player by the name, so players of one name share their cells.
-    for (const TPlayer& player :
-         core::WithoutPlaceZero(game.Players).first(static_cast<std::size_t>(SeatsPlayed(game)))) {
-      if (player.Name == ranked.Name)
-        DrawCells(player, game.GameType, state.settings.SiegAnzeige.IsOff(), y, picRanking);
+    for (const TPlayer& player : PlayersOf(ranked, game)) {
+      DrawCells(player, game.GameType, state.settings.SiegAnzeige.IsOff(), y, picRanking);
     }
     y += kRowHeight;
   }

@@ -71,6 +71,7 @@ void F1::ShowBlankDice() {
   picWurfel(0).Image = imlW.Image(windows::kBlankBlack);
   picWurfel(1).Image = imlW.Image(windows::kBlankRed);
   picWurfel(2).Image = imlW.Image(windows::kBlankGrey);
+  for (int i = picWurfel.First(); i <= picWurfel.Last(); ++i) picWurfel(i).SpokenName = std::string();
 }
 
 }  // namespace mainwindow

@@ -46,7 +46,9 @@ void MainWindow::DrawDiceStats() {
   DrawDiceChart(State, separator, F1.picW.Drawing);
   F1.picW.SpokenName = SpokenChart(State);
   F1.picInfoLine.Visible = State.settings.ShowLast6;
-  if (State.settings.ShowLast6) DrawLastSix(State, F1.picInfoLine.Drawing);
+  if (!State.settings.ShowLast6) return;
+  DrawLastSix(State, F1.picInfoLine.Drawing);
+  F1.picInfoLine.SpokenName = F1.picInfoLine.Drawing.Spoken();
 }
 
 /// Looks at the win anew each time: as long as a leader has the points, every redraw opens the winner's window.

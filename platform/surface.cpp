@@ -38,4 +38,17 @@ void Surface::PaintPicture(const Picture& picture, double x, double y) {
   if (!picture.Empty()) Add(PictureStep{x, y, picture});
 }
 
+std::string Surface::Spoken() const {
+  std::string all;
+  double line = 0;
+  for (const DrawingStep& step : steps_) {
+    const auto* text = std::get_if<TextStep>(&step);
+    if (!text) continue;
+    if (!all.empty()) all += text->Y == line ? " " : "; ";
+    all += text->Text;
+    line = text->Y;
+  }
+  return all;
+}
+
 }  // namespace platform

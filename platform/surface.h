@@ -81,6 +81,8 @@ class Surface {
   void PaintPicture(const Picture& picture, double x, double y);
 
   const std::vector<DrawingStep>& Steps() const { return steps_; }
+  /// All its texts in the order of their writing, for a screen reader; lines are told apart by ";".
+  std::string Spoken() const;
 
  private:
   void Add(DrawingStep step);

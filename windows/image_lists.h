@@ -16,6 +16,11 @@ inline constexpr int kBeforeEventFaces = 12;  ///< the image of event face n is 
 /// Symbols: 1 settlement, 2 city, 3 to 5 politics, trade and science metropolis, 6 merchant, 7 longest road, 8 largest
 /// army, 9 bonus point, 10 city laid waste, 11 any metropolis.
 inline constexpr platform::ImageList imlIcons{"imlIcons", 11, 16};
+/// The number of the text that names what a symbol from 1 to 9 stands for.
+constexpr int TextOfSymbol(int symbol) {
+  constexpr int kTexts[] = {48, 49, 52, 53, 54, 56, 50, 51, 55};
+  return kTexts[symbol - 1];
+}
 
 /// The buttons of the tool bar, without its separators.
 inline constexpr platform::ImageList imlToolbar{"imlToolbar", 11, 16};

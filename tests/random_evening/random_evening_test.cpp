@@ -130,7 +130,7 @@ class RandomEvening : public TemporaryFolder, public testing::WithParamInterface
   }
 
   // What must always hold; the answer is what does not, or nothing.
-  std::string Offence() { return LockOffence() + GameOffence() + LogOffence(); }
+  std::string Offence() { return LockOffence() + GameOffence() + LogOffence() + SilenceOffence(); }
   std::string LockOffence() {
     int open = 0, locking = 0;
     for (const Form* form : window.Desktop.Forms()) {
@@ -171,6 +171,18 @@ class RandomEvening : public TemporaryFolder, public testing::WithParamInterface
       if (roll.EventDie != 0) ++faces.at(static_cast<std::size_t>(roll.EventDie));
     }
     return sums == game.DiceCount && faces == game.EventCount ? "" : "log and counts have parted";
+  }
+
+  /// A picture that answers clicks or is written on has something to say to a screen reader.
+  std::string SilenceOffence() {
+    for (const Form* form : window.Desktop.Forms()) {
+      for (const Control* control : form->Controls()) {
+        const auto* box = dynamic_cast<const PictureBox*>(control);
+        if (!form->Visible || !box || !box->Visible || !box->SpokenName.Get().empty()) continue;
+        if (box->MouseUp ? box->ToolTipText.Get().empty() : !box->Drawing.Steps().empty()) return "silent " + box->Name;
+      }
+    }
+    return "";
   }
 
   ChanceServices chance;
