@@ -7,6 +7,7 @@
 #include "convert.h"
 #include "fonts.h"
 #include "pictures.h"
+#include "spoken_roles.h"
 
 namespace platform::qt {
 
@@ -18,6 +19,7 @@ Application::Application(char* programPath, const char* name, const Picture& ico
   QApplication::setFont(qt::ToQt(Font{}));
   QApplication::setWindowIcon(QIcon(":/" + ToQt(icon.Name)));
   QApplication::setQuitOnLastWindowClosed(false);
+  InstallSpokenRoles();
   if (toolkitWords_.load(QLocale::system(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QApplication::installTranslator(&toolkitWords_);
   }

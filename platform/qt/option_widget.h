@@ -9,9 +9,7 @@ namespace platform::qt {
 
 class OptionWidget : public QRadioButton {
  public:
-  OptionWidget(OptionButton& button, QWidget* parent) : QRadioButton(parent), button_(button) {
-    setAutoExclusive(false);  // the model clears the siblings
-  }
+  OptionWidget(OptionButton& button, QWidget* parent) : QRadioButton(parent), button_(button) {}
 
  protected:
   void mouseReleaseEvent(QMouseEvent* event) override;

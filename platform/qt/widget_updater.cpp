@@ -100,6 +100,8 @@ void WidgetUpdater::Visit(ComboBox& box) {
     for (const std::string& item : box.List()) widget.addItem(ToQt(item));
     widget.setEditText(text);
   }
+  // It is the field inside that gets the keyboard.
+  if (aspect_ == Aspect::Spoken) widget.lineEdit()->setAccessibleName(ToQt(box.SpokenName.Get()));
   if (aspect_ == Aspect::Text && widget.currentText() != ToQt(box.Text.Get())) widget.setEditText(ToQt(box.Text.Get()));
   Common(box);
 }
@@ -107,6 +109,7 @@ void WidgetUpdater::Visit(ComboBox& box) {
 void WidgetUpdater::Visit(Frame& frame) {
   if (aspect_ == Aspect::Caption) widget_.update();
   Common(frame);
+  widget_.setAccessibleName(ToQt(frame.Caption.Get()));
 }
 
 void WidgetUpdater::Visit(PictureBox& box) {

@@ -65,6 +65,7 @@ TEST_F(Input, TextFieldsTakeKeysAndEnterAndSpaceStayTheForms) {
   EXPECT_EQ(Window.F20.txtSpielername(0).Text.Get(), "a b");
   Type(Window.F20, Qt::Key_Tab);
   EXPECT_EQ(QApplication::focusWidget(), &WidgetOf(Window.F20.txtSpielername(1)));
+  EXPECT_TRUE(WindowOf(Window.F20).testAttribute(Qt::WA_KeyboardFocusChange)) << "no style marks the focus";
   Type(Window.F20, Qt::Key_Escape);
   EXPECT_FALSE(Window.F20.Visible);
 }
