@@ -35,10 +35,13 @@ QStringList NameFilters(const std::string& filter) {
   return filters;
 }
 
-/// The toolkit's own columns are too narrow for a date. The names get the room that the others leave.
+/// The toolkit's own columns are too narrow for a date. The names get the room that size and date leave; of what type a
+/// file is its name tells.
 void FitColumns(const QFileDialog& chooser) {
-  const auto* files = chooser.findChild<QTreeView*>("treeView");
+  auto* files = chooser.findChild<QTreeView*>("treeView");
   if (!files) return;
+  constexpr int kTypeColumn = 2;
+  files->setColumnHidden(kTypeColumn, true);
   files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
 }
