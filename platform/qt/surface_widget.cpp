@@ -18,7 +18,9 @@ MouseButton ButtonOf(Qt::MouseButton button) {
 }
 
 DrawnWidget::DrawnWidget(const Surface& drawing, const Measure& measure, QWidget* parent)
-    : QWidget(parent), drawing_(drawing), shown_(measure) {}
+    : QWidget(parent), drawing_(drawing), shown_(measure) {
+  shown_.Follow(drawing.Steps());  // a window may be made for a drawing that is there already
+}
 
 void DrawnWidget::DrawingChanged() {
   if (std::exchange(due_, true)) return;

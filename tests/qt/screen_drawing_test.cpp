@@ -7,6 +7,7 @@
 #include "../../platform/qt/replay.h"
 #include "../../platform/qt/screen_drawing.h"
 #include "../../windows/image_lists.h"
+#include "real_windows.h"
 
 namespace {
 
@@ -64,6 +65,16 @@ TEST(ScreenDrawing, PaintingTheChangeEqualsPaintingAll) {
     painter.end();
     ASSERT_EQ(grown, Whole(surface)) << "after drawing " << i;
   }
+}
+
+using RealWindows = tests::RealWindows;
+
+TEST_F(RealWindows, ShowWhatWasDrawnBeforeTheyWereMade) {
+  Window.F9.ShowStanding();
+  const QImage seen = WidgetOf(Window.F9.picRanking).grab().toImage();
+  QImage ground(seen.size(), seen.format());
+  ground.fill(seen.pixelColor(0, 0));
+  EXPECT_NE(seen, ground);
 }
 
 }  // namespace
