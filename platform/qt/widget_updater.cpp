@@ -22,11 +22,12 @@ namespace {
 constexpr int kMarkRoom = 20;  // pixels that the mark of a check box or option button takes
 
 /// What the program puts into a field that the user is typing in leaves the cursor where it was; what it puts into an
-/// emptied one is selected, so that the next key takes its place.
+/// emptied one is selected, so that the next key takes its place. Of a text that is too long for a field in which
+/// nobody is, the beginning is seen.
 void SetTextOf(QLineEdit& line, const QString& text) {
   if (line.text() == text) return;
   const bool emptied = line.text().isEmpty();
-  const auto behind = line.hasFocus() ? line.text().size() - line.cursorPosition() : 0;
+  const auto behind = line.hasFocus() ? line.text().size() - line.cursorPosition() : text.size();
   line.setText(text);
   line.setCursorPosition(static_cast<int>(std::max<qsizetype>(text.size() - behind, 0)));
   if (emptied && line.hasFocus()) line.selectAll();
