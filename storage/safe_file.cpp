@@ -159,7 +159,8 @@ WriteOutcome WriteWhole(const std::filesystem::path& file, std::string_view byte
   const std::filesystem::path target = LinkTarget(file);
   std::optional<struct stat> old;
   if (const WriteOutcome looked = LookAt(target, old); !looked) return looked;
-  const Handle folder(open(FolderOf(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  const auto openFolder = [&] { return open(FolderOf(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); };
+  const Handle folder(Uninterrupted(openFolder));
   if (!folder.IsOpen()) return Failed();
   NewFile fresh(folder.Number(), old ? old->st_mode & kRightsOfNewFiles : kRightsOfNewFiles);
   if (!fresh.IsOpen() || !fresh.Write(bytes) || (old && !fresh.TakeRights(*old)) || !fresh.Sync() ||
@@ -172,7 +173,8 @@ WriteOutcome WriteWhole(const std::filesystem::path& file, std::string_view byte
 bool CanWriteWhole(const std::filesystem::path& file) {
   const std::filesystem::path target = LinkTarget(file);
   std::optional<struct stat> old;
-  return LookAt(target, old) && access(FolderOf(target).c_str(), R_OK | W_OK | X_OK) == 0;
+  if (const WriteOutcome looked = LookAt(target, old); !looked) return looked.Failure == WriteFailure::Other;
+  return access(FolderOf(target).c_str(), R_OK | W_OK | X_OK) == 0 || KindOf(errno) == WriteFailure::Other;
 }
 
 }  // namespace storage

@@ -32,7 +32,8 @@ struct WriteOutcome {
 /// new file is in place. Called by the commands that save and by the quit.
 WriteOutcome WriteWhole(const std::filesystem::path& file, std::string_view bytes);
 
-/// Whether WriteWhole may put a file there, as far as can be told without writing.
+/// Whether WriteWhole may put a file there, as far as can be told without writing. A disk with a fault forbids nothing:
+/// the write will tell.
 bool CanWriteWhole(const std::filesystem::path& file);
 
 /// The file where a link, or a chain of them, leads; the path itself if it is no link. Nothing for a circle of links.

@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QLocale>
 #include <QMessageBox>
+#include <QPointer>
 #include <QStandardPaths>
 #include <QTimer>
 #include <QTreeView>
@@ -45,6 +46,20 @@ void FitColumns(const QFileDialog& chooser) {
   files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
 }
+
+/// Window managers lose the keyboard now and then when a box and the dialog below it go in the same moment.
+class KeyboardGoesBack {
+ public:
+  KeyboardGoesBack() = default;
+  KeyboardGoesBack(const KeyboardGoesBack&) = delete;
+  KeyboardGoesBack& operator=(const KeyboardGoesBack&) = delete;
+  ~KeyboardGoesBack() {
+    if (from_) from_->activateWindow();
+  }
+
+ private:
+  QPointer<QWidget> from_ = QApplication::activeWindow();
+};
 
 }  // namespace
 
@@ -86,6 +101,7 @@ void QtServices::WaitWhileVisible(Form& form) {
 
 /// The toolkit's own dialog on every desktop: only the extension that was asked for is ever added to a name.
 bool QtServices::ChooseFile(FileDialog& dialog) {
+  const KeyboardGoesBack goesBack;
   QFileDialog chooser(QApplication::activeWindow(), ToQt(dialog.DialogTitle), ToQt(dialog.InitDir));
   const bool open = (dialog.Flags & FileDialog::kFileMustExist) != 0;
   chooser.setOption(QFileDialog::DontUseNativeDialog);
