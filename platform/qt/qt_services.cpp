@@ -47,6 +47,13 @@ void FitColumns(const QFileDialog& chooser) {
   files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
 }
 
+/// The window that a box or dialog stands above: the active one or, where none is just after another box, the last.
+QWidget* WindowBelow() {
+  static QPointer<QWidget> last;
+  if (QWidget* active = QApplication::activeWindow()) last = active;
+  return last;
+}
+
 /// Window managers lose the keyboard now and then when a box and the dialog below it go in the same moment.
 class KeyboardGoesBack {
  public:
@@ -54,11 +61,11 @@ class KeyboardGoesBack {
   KeyboardGoesBack(const KeyboardGoesBack&) = delete;
   KeyboardGoesBack& operator=(const KeyboardGoesBack&) = delete;
   ~KeyboardGoesBack() {
-    if (from_) from_->activateWindow();
+    if (to_) to_->activateWindow();
   }
 
  private:
-  QPointer<QWidget> from_ = QApplication::activeWindow();
+  QPointer<QWidget> to_ = WindowBelow();
 };
 
 }  // namespace
@@ -67,7 +74,7 @@ QtServices::QtServices()
     : generator_(static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count())) {}
 
 Answer QtServices::MessageBox(const std::string& text, const std::string& title, Buttons buttons, Icon icon) {
-  QMessageBox box(QApplication::activeWindow());
+  QMessageBox box(WindowBelow());
   box.setTextFormat(Qt::PlainText);
   box.setText(ToQt(text));
   box.setWindowTitle(title.empty() ? QApplication::applicationName() : ToQt(title));
@@ -102,7 +109,7 @@ void QtServices::WaitWhileVisible(Form& form) {
 /// The toolkit's own dialog on every desktop: only the extension that was asked for is ever added to a name.
 bool QtServices::ChooseFile(FileDialog& dialog) {
   const KeyboardGoesBack goesBack;
-  QFileDialog chooser(QApplication::activeWindow(), ToQt(dialog.DialogTitle), ToQt(dialog.InitDir));
+  QFileDialog chooser(WindowBelow(), ToQt(dialog.DialogTitle), ToQt(dialog.InitDir));
   const bool open = (dialog.Flags & FileDialog::kFileMustExist) != 0;
   chooser.setOption(QFileDialog::DontUseNativeDialog);
   chooser.setOption(QFileDialog::DontConfirmOverwrite, (dialog.Flags & FileDialog::kAskBeforeOverwriting) == 0);
