@@ -103,7 +103,6 @@ int NewFile::Create(mode_t rights) {
 bool NewFile::Write(std::string_view bytes) {
   while (!bytes.empty()) {
     const ssize_t written = Uninterrupted([&] { return write(file_.Number(), bytes.data(), bytes.size()); });
-    if (written == 0) errno = EIO;  // a device that takes nothing would keep this going for ever
     if (written <= 0) return false;
     bytes.remove_prefix(static_cast<std::size_t>(written));
   }

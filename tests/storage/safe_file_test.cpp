@@ -133,6 +133,12 @@ TEST_F(SafeFileTest, FollowsLinksAndKeepsRights) {
     EXPECT_EQ(Save("new"), WriteFailure::None);
     EXPECT_EQ(Rights(target), rights);
   }
+  struct stat found {};
+  if (geteuid() == 0 && chown(target.c_str(), 1234, 1235) == 0) {  // a superuser saves what is another's
+    EXPECT_EQ(Save("newer"), WriteFailure::None);
+    EXPECT_EQ(stat(target.c_str(), &found), 0);
+    EXPECT_EQ(std::pair(found.st_uid, found.st_gid), std::pair(uid_t{1234}, gid_t{1235}));
+  }
   EXPECT_TRUE(std::filesystem::is_symlink(File) && std::filesystem::is_symlink(Folder / "link"));
   EXPECT_THAT(Names("far"), ElementsAre("target"));
   const mode_t mask = umask(027);
