@@ -10,7 +10,7 @@
 #include "real_windows.h"
 
 #ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();  // the compiler brings no header for it
 #endif
 
 namespace {
