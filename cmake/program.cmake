@@ -1,7 +1,7 @@
 # The window system's side and the program. Only this part needs Qt.
 file(GLOB ORVANBEG_QT_SOURCES CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/platform/qt/*.cpp)
 add_library(platform_qt STATIC ${ORVANBEG_QT_SOURCES})
-target_link_libraries(platform_qt PUBLIC platform Qt6::Widgets Qt6::PrintSupport Qt6::Svg)
+target_link_libraries(platform_qt PUBLIC platform Qt6::Widgets Qt6::PrintSupport Qt6::Svg Qt6::DBus)
 target_compile_definitions(platform_qt PRIVATE
   ORVANBEG_VERSION_MAJOR=${PROJECT_VERSION_MAJOR} ORVANBEG_VERSION_MINOR=${PROJECT_VERSION_MINOR}
   ORVANBEG_VERSION_REVISION=${PROJECT_VERSION_PATCH})

@@ -91,7 +91,7 @@ void MainWindow::FollowNewGame() {
     F8.ShowTheme(core::ThemeOf(State.game));
     LoadThemeImages(core::ThemeOf(State.game));
   }
-  ShowClockCaption();
+  FollowClock();
   ShowPlayerPanels();
   DrawDiceStats();
   core::CalcPoints(State.game, *this);

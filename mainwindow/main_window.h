@@ -95,7 +95,7 @@ class MainWindow : public core::Screen, private storage::GameFileEvents {
   void ReadTexts();
   void TellOfBlock(const std::string& file, int count);
   void SetCaptions();
-  void ShowClockCaption();
+  void FollowClock();
 
   // Keys and mouse, in main_window_input.cpp.
   void WireInput();

@@ -31,7 +31,7 @@ void MainWindow::F1_mnuExtraDelLastW_Click() {
 
 void MainWindow::F1_mnuExtraClock_Click() {
   State.game.ClockRunning = !State.game.ClockRunning;
-  ShowClockCaption();
+  FollowClock();
 }
 
 void MainWindow::F1_mnuExtraSettings_Click() { F8.OpenSettings(); }

@@ -59,14 +59,16 @@ void MainWindow::SetCaptions() {
     (*F1.MenuBar)[command.Menu.Name].Caption = text;
     if (command.Tool != 0) F1.tbrMenu.SetToolTip(command.Tool, platform::WithoutMnemonic(text));
   }
-  ShowClockCaption();
+  FollowClock();
   for (int i = 0; i < core::kSeats; ++i) F1.picSP(i).ToolTipText = State.Text(27 + i);
   for (int i = 0; i < 3; ++i) F1.picWurfel(i).ToolTipText = State.Text(33);
   for (windows::Dialog* dialog : Dialogs()) dialog->SetCaptions();
 }
 
-void MainWindow::ShowClockCaption() {
+/// The clock has been started or stopped: while it runs somebody looks at it, though keyboard and mouse may rest long.
+void MainWindow::FollowClock() {
   (*F1.MenuBar)["mnuExtraClock"].Caption = State.Text(State.game.ClockRunning ? 111 : 112);
+  services_.KeepScreenAwake(State.game.ClockRunning);
 }
 
 }  // namespace mainwindow

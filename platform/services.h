@@ -73,6 +73,9 @@ class Services {
   /// The system's decimal separator, "." or "," as a rule.
   virtual std::string DecimalSeparator() = 0;
 
+  /// Whether the screen stays on though nobody touches keyboard or mouse. Where the system cannot do that, it does not.
+  virtual void KeepScreenAwake(bool awake) = 0;
+
   /// Ends the process in an orderly way once the current event is done. Status 0: all is well.
   virtual void Quit(int status) = 0;
 };

@@ -36,6 +36,7 @@ class ScriptedServices : public platform::Services {
   std::set<std::string> MissingPictures;  ///< by name
   std::filesystem::path Folder = ORVANBEG_RUN_FOLDER;
   std::string Separator = ",";
+  bool ScreenAwake = false;
   int QuitStatus = -1;  ///< -1: not asked to quit
 
   platform::Answer MessageBox(const std::string& text, const std::string& title, platform::Buttons buttons,
@@ -71,6 +72,7 @@ class ScriptedServices : public platform::Services {
   std::filesystem::path DocumentsFolder() override { return Folder / "documents"; }
   std::string Today() override { return "22.11.2026"; }
   std::string DecimalSeparator() override { return Separator; }
+  void KeepScreenAwake(bool awake) override { ScreenAwake = awake; }
   void Quit(int status) override { QuitStatus = status; }
 
  private:

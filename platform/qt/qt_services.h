@@ -4,6 +4,7 @@
 #include <random>
 
 #include "../services.h"
+#include "screen_saver.h"
 
 namespace platform::qt {
 
@@ -25,10 +26,12 @@ class QtServices : public Services {
   std::filesystem::path DocumentsFolder() override;
   std::string Today() override;
   std::string DecimalSeparator() override;
+  void KeepScreenAwake(bool awake) override { screenSaver_.KeepAway(awake); }
   void Quit(int status) override;
 
  private:
   std::mt19937_64 generator_;  ///< seeded once, from the clock
+  ScreenSaver screenSaver_;
 };
 
 }  // namespace platform::qt

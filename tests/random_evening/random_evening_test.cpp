@@ -150,6 +150,7 @@ class RandomEvening : public TemporaryFolder, public testing::WithParamInterface
     if (outside(game.NumPlayers, 2, 6) || outside(game.GameType, 2, 3)) return "kind of game or number of players";
     if (outside(game.CurrentPlayer, 0, 6) || outside(game.DataPlayer, 0, 6)) return "seat of a dialog";
     if (outside(window.State.settings.HG, 1, 3)) return "theme";
+    if (chance.ScreenAwake != game.ClockRunning) return "the screen does not follow the clock";
     core::Game anew = game;
     core::ComputePoints(anew);
     core::ClampPoints(anew);

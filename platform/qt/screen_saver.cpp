@@ -1,0 +1,51 @@
+#include "screen_saver.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+
+namespace platform::qt {
+namespace {
+
+QDBusMessage CallOf(const char* method) {
+  auto call = QDBusMessage::createMethodCall("org.freedesktop.ScreenSaver", "/org/freedesktop/ScreenSaver",
+                                             "org.freedesktop.ScreenSaver", method);
+  call.setAutoStartService(false);  // a desktop that has the service runs it
+  return call;
+}
+
+}  // namespace
+
+void ScreenSaver::KeepAway(bool away) {
+  wanted_ = away;
+  Settle();
+}
+
+void ScreenSaver::Settle() {
+  if (asking_ || wanted_ == inhibited_.has_value()) return;
+  wanted_ ? Inhibit() : UnInhibit();
+}
+
+/// One that is refused is not asked again until the screen is to stay on anew.
+void ScreenSaver::Inhibit() {
+  asking_ = true;
+  const auto call = CallOf("Inhibit") << QCoreApplication::applicationName() << "The clock of the game is running";
+  auto* answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);
+  connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+    const QDBusPendingReply<uint> number = *answer;
+    answer->deleteLater();
+    asking_ = false;
+    if (!number.isValid()) return;
+    inhibited_ = number.value();
+    Settle();  // it may not be wanted any more
+  });
+}
+
+void ScreenSaver::UnInhibit() {
+  QDBusConnection::sessionBus().send(CallOf("UnInhibit") << *inhibited_);
+  inhibited_.reset();
+}
+
+}  // namespace platform::qt
