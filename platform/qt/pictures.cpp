@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "convert.h"
+#include "image_file.h"
 
 namespace platform::qt {
 namespace {
@@ -37,7 +38,7 @@ Decoded Decode(const Picture& picture) {
     decoded.drawing = std::make_unique<QSvgRenderer>(path);
   } else {
     decoded.fileTime = TimeOf(picture);
-    decoded.image.load(path);
+    decoded.image = ReadImageFile(path);
   }
   return decoded;
 }

@@ -2,9 +2,14 @@
 // that it tells of, at any resolution.
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <QImage>
+#include <QTemporaryDir>
 
 #include "../../platform/qt/convert.h"
+#include "../../platform/qt/image_file.h"
 #include "../../platform/qt/pictures.h"
 #include "../../platform/qt/replay.h"
 #include "../../windows/image_lists.h"
@@ -13,6 +18,7 @@ namespace {
 
 using platform::Colour;
 using platform::Surface;
+using platform::qt::ReadImageFile;
 using platform::qt::ToQt;
 
 constexpr Colour kInk{255, 0, 0};
@@ -46,6 +52,22 @@ TEST(Pictures, AllDrawingsOfTheFormsLoadAtTheirSize) {
   EXPECT_EQ(platform::qt::SizeOf(windows::kArrow), QSize(32, 32));
   EXPECT_EQ(platform::qt::SizeOf(windows::kWinner), QSize(55, 55));
   EXPECT_TRUE(platform::qt::SizeOf({"no-such.jpg", false}).isEmpty());
+}
+
+TEST(Pictures, AFileIsDecodedWhereItIsAPictureOfUsefulSize) {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath("picture.jpg");
+  for (const auto& [width, whole] : {std::pair{1280, true}, {1281, false}}) {
+    QImage(width, 7, QImage::Format_RGB32).save(path);
+    EXPECT_EQ(ReadImageFile(path).width(), whole ? width : 0);
+  }
+  QFile::resize(path, 100'000'000);
+  EXPECT_TRUE(ReadImageFile(path).isNull());
+  QFile::remove(path);
+  mkfifo(path.toUtf8().constData(), 0600);
+  alarm(10);  // who opens it waits for ever
+  EXPECT_TRUE(ReadImageFile(path).isNull());
+  alarm(0);
 }
 
 TEST(Replay, BoxesReachUpToTheirSecondCornerAndAreNeverEmpty) {
