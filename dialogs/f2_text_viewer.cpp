@@ -13,6 +13,8 @@ constexpr int kClientHeight = 6870;
 constexpr Place kTextPlace{60, 60, 8055, 6315};
 constexpr Place kOkPlace{3420, 6420, 1395, 375};
 
+constexpr std::size_t kMostShown = 1 << 16;  // bytes; a text field is slow with more
+
 }  // namespace
 
 F2::F2(const windows::Context& context)
@@ -35,7 +37,7 @@ void F2::ShowFile(const std::string& name) {
   if (!file.is_open()) return;
   storage::LineReader reader(file, storage::LineFeeds::EndLines);
   std::string text;
-  for (std::string line; reader.Next(line);) text += "\r\n" + line;
+  for (std::string line; reader.Next(line) && text.size() + line.size() < kMostShown;) text += "\r\n" + line;
   txtInfo.Text = text;
   SetFocus(txtInfo);  // so that the keys scroll
   BringUp();

@@ -21,8 +21,7 @@ bool LineReader::Next(std::string& line) {
 bool LineReader::NextBytes(std::string_view& line) {
   line = {};
   const std::size_t length = ended_ ? 0 : LengthOfLine();
-  endedByLength_ = length > kLongestLine;
-  ended_ = ended_ || endedByLength_ || begin_ == ahead_.size();
+  ended_ = ended_ || EndedByLength() || begin_ == ahead_.size();
   if (ended_) return false;
   const bool isReturn = StandsAt(begin_ + length, '\r');
   const bool isPair = isReturn && StandsAt(begin_ + length + 1, '\n');
@@ -31,7 +30,7 @@ bool LineReader::NextBytes(std::string_view& line) {
   return true;
 }
 
-/// Up to the line's end, that of the file, or where the line is too long; all of it has been read ahead then.
+/// Up to the line's end, that of the file, or where the file is too long; all of it has been read ahead then.
 std::size_t LineReader::LengthOfLine() {
   const auto isEnd = [this](char byte) { return byte == '\r' || (byte == '\n' && lineFeeds_ == LineFeeds::EndLines); };
   std::size_t length = 0;
@@ -40,7 +39,7 @@ std::size_t LineReader::LengthOfLine() {
     const auto end = std::find_if(from, ahead_.end(), isEnd);
     length += static_cast<std::size_t>(end - from);
     if (end != ahead_.end()) break;
-  } while (length <= kLongestLine && ReadAhead());
+  } while (!EndedByLength() && ReadAhead());
   return length;
 }
 
@@ -61,6 +60,7 @@ bool LineReader::ReadAhead() {
   } catch (const std::ios_base::failure&) {  // a folder, or a disk with a fault
   }
   ahead_.resize(before + static_cast<std::size_t>(std::max<std::streamsize>(read, 0)));
+  bytesRead_ += ahead_.size() - before;
   return read > 0;
 }
 

@@ -1,5 +1,5 @@
 // Reads a text file of the program line by line, from the code page into UTF-8. A file that is none, or that the
-// machine cannot read to its end, costs neither memory nor an exception: it ends where it went wrong.
+// machine cannot read to its end, costs neither time nor memory nor an exception: it ends where it went wrong.
 #pragma once
 
 #include <istream>
@@ -8,8 +8,8 @@
 
 namespace storage {
 
-/// Bytes of the longest line that is read; no text of the program comes near it.
-inline constexpr std::size_t kLongestLine = 1 << 20;
+/// No more bytes than these are read of a file; none of the program comes near it.
+inline constexpr std::size_t kLargestFile = 1 << 20;
 
 /// Where a line ends besides at a carriage return with or without line feed.
 enum class LineFeeds {
@@ -21,13 +21,13 @@ enum class LineFeeds {
 class LineReader {
  public:
   LineReader(std::istream& file, LineFeeds lineFeeds) : file_(*file.rdbuf()), lineFeeds_(lineFeeds) {}
-  /// Reads the next line into `line`; false at the end of the file, and from a line on that is longer than
-  /// `kLongestLine` or cannot be read. An unfinished last line counts if it is not empty.
+  /// Reads the next line into `line`; false at the end of the file, and from a line on that reaches beyond
+  /// `kLargestFile` or cannot be read. An unfinished last line counts if it is not empty.
   bool Next(std::string& line);
   /// The same in the bytes of the code page, which stand until the next line is read.
   bool NextBytes(std::string_view& line);
-  /// Whether it was a line's length that ended the reading.
-  bool EndedByLength() const { return endedByLength_; }
+  /// Whether it was the file's length that ended the reading.
+  bool EndedByLength() const { return bytesRead_ > kLargestFile; }
 
  private:
   bool ReadAhead();
@@ -39,7 +39,7 @@ class LineReader {
   std::string ahead_;      ///< read already
   std::size_t begin_ = 0;  ///< of what is not told yet in it
   bool ended_ = false;
-  bool endedByLength_ = false;
+  std::size_t bytesRead_ = 0;
 };
 
 }  // namespace storage
