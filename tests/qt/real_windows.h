@@ -13,9 +13,31 @@
 
 namespace tests {
 
-class RealWindows : public testing::Test {
+/// Types and clicks on what a shell shows of the forms, as the window system would deliver it.
+class Hands {
  protected:
-  RealWindows() {
+  explicit Hands(platform::qt::Shell& shell) : shell_(shell) {}
+
+  platform::qt::FormWindow& WindowOf(const platform::Form& form) { return *shell_.WindowOf(form); }
+  QWidget& WidgetOf(platform::Control& control) { return *WindowOf(*control.Owner()).Widgets().WidgetOf(control); }
+
+  void Type(const platform::Form& form, Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) {
+    QTest::keyClick(WindowOf(form).windowHandle(), key, with);
+  }
+  void Click(platform::Control& control, Qt::MouseButton button = Qt::LeftButton) {
+    ClickAt(WidgetOf(control), WidgetOf(control).rect().center(), button);
+  }
+  void ClickAt(QWidget& widget, QPoint at, Qt::MouseButton button = Qt::LeftButton) {
+    QTest::mouseClick(widget.window()->windowHandle(), button, {}, widget.mapTo(widget.window(), at));
+  }
+
+ private:
+  platform::qt::Shell& shell_;
+};
+
+class RealWindows : public testing::Test, protected Hands {
+ protected:
+  RealWindows() : Hands(Shell) {
     EXPECT_EQ(Window.Load(), mainwindow::Started::Yes);
     EXPECT_TRUE(QTest::qWaitForWindowActive(&WindowOf(Window.F1)));
   }
@@ -23,20 +45,6 @@ class RealWindows : public testing::Test {
   ScriptedServices Services;
   mainwindow::MainWindow Window{Services};
   platform::qt::Shell Shell{Window.Desktop, Window.F1};
-
-  platform::qt::FormWindow& WindowOf(platform::Form& form) { return *Shell.WindowOf(form); }
-  QWidget& WidgetOf(platform::Control& control) { return *WindowOf(*control.Owner()).Widgets().WidgetOf(control); }
-
-  /// Types a key into the window of a form, as the window system would deliver it.
-  void Type(platform::Form& form, Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) {
-    QTest::keyClick(WindowOf(form).windowHandle(), key, with);
-  }
-
-  void Click(platform::Control& control, Qt::MouseButton button = Qt::LeftButton) {
-    QWidget& widget = WidgetOf(control);
-    const QPoint middle = widget.mapTo(widget.window(), widget.rect().center());
-    QTest::mouseClick(widget.window()->windowHandle(), button, {}, middle);
-  }
 };
 
 }  // namespace tests
