@@ -23,29 +23,25 @@ bool LineReader::NextBytes(std::string_view& line) {
   const std::size_t length = ended_ ? 0 : LengthOfLine();
   ended_ = ended_ || EndedByLength() || begin_ == ahead_.size();
   if (ended_) return false;
-  const bool isReturn = StandsAt(begin_ + length, '\r');
-  const bool isPair = isReturn && StandsAt(begin_ + length + 1, '\n');
-  line = std::string_view(ahead_).substr(begin_, length);
-  begin_ = std::min(begin_ + length + (isPair ? 2 : 1), ahead_.size());
+  if (begin_ + length + 2 > ahead_.size()) ReadAhead();  // perhaps to the other half of the line's end
+  line = {ahead_.data() + begin_, length};
+  begin_ += length;
+  const std::string_view end = std::string_view(ahead_).substr(begin_, 2);
+  begin_ += end == "\r\n" ? 2 : std::min<std::size_t>(end.size(), 1);
   return true;
 }
 
 /// Up to the line's end, that of the file, or where the file is too long; all of it has been read ahead then.
 std::size_t LineReader::LengthOfLine() {
-  const auto isEnd = [this](char byte) { return byte == '\r' || (byte == '\n' && lineFeeds_ == LineFeeds::EndLines); };
+  const char other = lineFeeds_ == LineFeeds::EndLines ? '\n' : '\r';
   std::size_t length = 0;
   do {
-    const auto from = ahead_.begin() + static_cast<std::ptrdiff_t>(begin_ + length);
-    const auto end = std::find_if(from, ahead_.end(), isEnd);
-    length += static_cast<std::size_t>(end - from);
-    if (end != ahead_.end()) break;
+    for (const std::size_t all = ahead_.size() - begin_; length < all; ++length) {
+      const char byte = ahead_[begin_ + length];
+      if (byte == '\r' || byte == other) return length;
+    }
   } while (!EndedByLength() && ReadAhead());
   return length;
-}
-
-bool LineReader::StandsAt(std::size_t place, char byte) {
-  const std::size_t offset = place - begin_;
-  return (place < ahead_.size() || ReadAhead()) && ahead_[begin_ + offset] == byte;
 }
 
 /// Reads another piece behind what has not been told yet; false at the end of the file.

@@ -32,7 +32,6 @@ class LineReader {
  private:
   bool ReadAhead();
   std::size_t LengthOfLine();
-  bool StandsAt(std::size_t place, char byte);
 
   std::streambuf& file_;
   LineFeeds lineFeeds_;
