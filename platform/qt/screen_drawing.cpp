@@ -37,7 +37,8 @@ void ScreenDrawing::Paint(QPainter& painter, const QRegion& within) const {
   StepPainter paint(painter, measure_);
   for (const ShownStep& shown : shown_) {
     if (!within.intersects(shown.Extent)) continue;
-    if (const auto* text = std::get_if<TextStep>(&shown.Step)) {
+    const auto* text = std::get_if<TextStep>(&shown.Step);
+    if (text && text->Room == 0) {
       paint.UseFace(*text);
       painter.drawStaticText(measure_.At(text->X, text->Y), shown.Letters);
     } else {

@@ -38,11 +38,12 @@ void DrawByChance(std::mt19937& chance, std::vector<std::uint_fast32_t>& seeds, 
     surface.FontSize = 8 + number(24);
     surface.FontBold = number(2) == 0;
     surface.FontName = number(2) == 0 ? "Arial" : "Verdana";
-    switch (number(5)) {
+    switch (number(6)) {
       case 0: surface.FillBox(x, y, to, to, surface.ForeColor); break;
       case 1: surface.Box(x, y, to, to, surface.ForeColor); break;
       case 2: surface.Line(x, y, to, to, surface.ForeColor); break;
       case 3: surface.PaintPicture(windows::imlW.Image(1 + number(19)), x, y); break;
+      case 4: surface.PrintWithin(x, y, 30, std::to_string(seed)); break;
       default: surface.PrintAt(x, y, number(2) == 0 ? "ÅÖjfŒ W" : std::to_string(seed)); break;
     }
   }
