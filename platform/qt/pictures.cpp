@@ -1,8 +1,10 @@
 #include "pictures.h"
 
+#include <QApplication>
 #include <QHash>
 #include <QPaintDevice>
 #include <QSvgRenderer>
+#include <QWidget>
 #include <filesystem>
 #include <memory>
 
@@ -52,6 +54,11 @@ const std::shared_ptr<Decoded>& Find(const Picture& picture) {
   return found;
 }
 
+/// The forms that show a picture need not get another one when its file has changed.
+void PaintAllAnew() {
+  for (QWidget* widget : QApplication::allWidgets()) widget->update();
+}
+
 QPixmap Render(const Decoded& decoded, qreal ratio) {
   if (!decoded.drawing) return QPixmap::fromImage(decoded.image);
   QPixmap pixels(decoded.Size() * ratio);
@@ -75,7 +82,9 @@ bool LookFor(const Picture& picture) {
   if (!found || found->fileTime != TimeOf(picture)) {
     auto fresh = std::make_shared<Decoded>(Decode(picture));
     // A file that has vanished or is damaged now leaves the picture that was seen so far.
-    if (!found || !fresh->Size().isEmpty()) found = std::move(fresh);
+    const bool replaces = found && !fresh->Size().isEmpty();
+    if (!found || replaces) found = std::move(fresh);
+    if (replaces) PaintAllAnew();
   }
   return !found->Size().isEmpty();
 }

@@ -13,8 +13,8 @@ namespace platform::qt {
 /// The natural size in pixels; empty for a picture that cannot be loaded.
 QSize SizeOf(const Picture& picture);
 
-/// Whether the picture can be shown. A file that has changed since it was decoded is decoded again. Called before a
-/// form is given a file's picture.
+/// Whether the picture can be shown. A file that has changed since it was decoded is decoded again, and painted
+/// anew wherever it is seen. Called before a form is given a file's picture.
 bool LookFor(const Picture& picture);
 
 /// The picture for a screen with this many device pixels to a pixel; a null pixmap if it cannot be loaded.
