@@ -30,7 +30,7 @@ inline unsigned FromEnvironment(const char* name, unsigned otherwise) {
 
 /// Answers by chance; the clock ticks while a box is open; now and then a picture is missing.
 struct ChanceServices : ScriptedServices {
-  std::mt19937 Generator;
+  std::mt19937 Generator, Pictures;  // of their own, so that another way of drawing is not another evening
   std::function<void()> WhileABoxIsOpen;
 
   int Below(int end) { return static_cast<int>(Generator() % static_cast<unsigned>(end)); }
@@ -43,7 +43,7 @@ struct ChanceServices : ScriptedServices {
     WhileABoxIsOpen();
     return buttons == Buttons::Ok ? Answer::Ok : Percent(50) ? Answer::Yes : Answer::No;
   }
-  bool CanShow(const Picture&) override { return !Percent(1); }
+  bool CanShow(const Picture&) override { return Pictures() % 100 != 0; }
   double Random() override { return Below(1000) / 1000.0; }
 };
 
