@@ -54,13 +54,14 @@ int Tick(bool on) { return on ? 1 : 0; }
 bool IsTicked(const platform::CheckBox& box) { return box.Value.Get() == 1; }
 bool IsHotkey(const std::string& text) { return text.size() == 1 && text[0] >= 'A' && text[0] <= 'Z'; }
 
-/// The first character of a UTF-8 text; a letter of the key row as a capital.
+/// The first character of a typed text, as a capital.
 std::string FirstCapital(const std::string& text) {
-  std::size_t length = text.empty() ? 0 : 1;
-  while (length < text.size() && (static_cast<unsigned char>(text[length]) & 0xC0U) == 0x80U) ++length;
-  std::string first = text.substr(0, length);
-  if (first.size() == 1 && first[0] >= 'a' && first[0] <= 'z') first[0] = static_cast<char>(first[0] - 'a' + 'A');
-  return first;
+  std::string first = storage::ToCodePage(storage::Storable(text)).substr(0, 1);
+  if (first.empty()) return first;
+  const auto byte = static_cast<unsigned char>(first[0]);
+  const bool small = (byte >= 'a' && byte <= 'z') || (byte >= 0xE0 && byte <= 0xFE && byte != 0xF7);
+  if (small) first[0] = static_cast<char>(byte - 0x20);
+  return storage::FromCodePage(first);
 }
 
 }  // namespace
@@ -162,9 +163,7 @@ void F8::SetCaptions() {
   for (const int text : {66, 67, 68}) cmbHG.AddItem(state().Text(text));
 }
 
-void F8::ShowTheme(int theme) {
-  if (theme >= 1 && theme <= 3) cmbHG.Text = state().Text(65 + theme);
-}
+void F8::ShowTheme(int theme) { cmbHG.Pick(theme - 1); }
 
 void F8::OpenSettings() {
   const core::Settings& settings = state().settings;
@@ -232,8 +231,11 @@ void F8::F8_txtEWHotkey_Change(int index) {
 }
 
 void F8::F8_txtSieger_KeyUp() {
-  if (!core::NumberIn(txtSieger.Text.Get()))
-    txtSieger.Text = state().game.GameType == core::kFirstExpansion ? "13" : "10";
+  const std::int16_t gameType = state().game.GameType;
+  if (!core::NumberIn(txtSieger.Text.Get())) {
+    if (gameType == core::kBaseGame) txtSieger.Text = "10";
+    if (gameType == core::kFirstExpansion) txtSieger.Text = "13";
+  }
   if (const auto points = core::WholeNumberIn(txtSieger.Text.Get())) state().game.WinPoints = *points;
 }
 

@@ -12,8 +12,9 @@ struct SettingsTest : MainWindowTest {
 };
 
 TEST_F(SettingsTest, HotkeysAreOneLetterEachAndWaitForOk) {
-  const std::tuple<const char*, const char*, bool> rows[] = {
-      {"Xy", "X", true}, {"1", "1", false}, {"", "", false}, {"ä", "ä", false}, {"h", "H", true}};
+  const std::tuple<const char*, const char*, bool> rows[] = {{"Xy", "X", true}, {"1", "1", false}, {"", "", false},
+                                                             {"ä", "Ä", false}, {"÷", "÷", false}, {"жb", "B", true},
+                                                             {"h", "H", true}};
   for (const auto& [typed, shown, valid] : rows) {
     F8.Type(F8.txtEWHotkey(0), typed);
     EXPECT_EQ(F8.txtEWHotkey(0).Text.Get(), shown);
@@ -28,7 +29,7 @@ TEST_F(SettingsTest, HotkeysAreOneLetterEachAndWaitForOk) {
 TEST_F(SettingsTest, WinPointsFollowEachKey) {
   F8.SetFocus(F8.txtSieger);
   const std::tuple<std::int16_t, const char*, const char*, int> rows[] = {
-      {2, "12", "12", 12}, {2, "", "10", 10},        {3, "x", "13", 13},
+      {2, "12", "12", 12}, {2, "", "10", 10},        {3, "x", "13", 13},     {7, "x", "x", 13},
       {2, "7", "7", 7},    {2, "40000", "40000", 7}, {2, "-2,5", "-2,5", -2}};
   for (const auto& [gameType, typed, shown, points] : rows) {
     game.GameType = gameType;
@@ -37,6 +38,12 @@ TEST_F(SettingsTest, WinPointsFollowEachKey) {
     EXPECT_EQ(F8.txtSieger.Text.Get(), shown);
     EXPECT_EQ(game.WinPoints, points) << typed;
   }
+}
+
+TEST_F(SettingsTest, OpeningLoadsTheThemeAnew) {
+  window.F1.picSP(2).Image = platform::Picture{};
+  F8.OpenSettings();
+  EXPECT_EQ(window.F1.picSP(2).Image.Get().Name, "img/basis_s3_high.jpg");
 }
 
 TEST_F(SettingsTest, OnlyALanguageOfTheListClosesAndALostFileLeavesTheTexts) {
