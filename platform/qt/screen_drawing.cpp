@@ -14,7 +14,7 @@ constexpr double kAround = 2;   // pixels that soft edges and accents may reach 
 
 /// Whether all letters stay between the lines that the font tells of.
 bool IsPlain(const std::string& text) {
-  return std::all_of(text.begin(), text.end(), [](char byte) { return byte >= ' '; });
+  return std::all_of(text.begin(), text.end(), [](unsigned char byte) { return byte >= ' ' && byte < 0x80; });
 }
 
 }  // namespace
