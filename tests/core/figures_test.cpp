@@ -1,4 +1,4 @@
-// The figures of chart, clocks and board where rounding or an extreme decides, and numbers as text.
+// The figures of chart and clocks where rounding or an extreme decides, and numbers as text.
 #include "../../core/dice_stats.h"
 
 #include <gmock/gmock.h>
@@ -6,7 +6,6 @@
 #include "../../core/arithmetic.h"
 #include "../../core/clock.h"
 #include "../../core/number_text.h"
-#include "seated_game.h"
 
 namespace tests {
 namespace {
@@ -65,7 +64,8 @@ TEST(ClockTest, CountsBothClocksUpToTheirEndWhileTheyRun) {
   core::Tick(game);
   EXPECT_THAT(game.Clock, ElementsAre(32766, -1)) << "the clocks stand";
   game.ClockRunning = true;
-  for (int second = 1; second <= 2; ++second) core::Tick(game);
+  core::Tick(game);
+  core::Tick(game);
   EXPECT_THAT(game.Clock, ElementsAre(32767, 1));
 }
 
@@ -73,19 +73,6 @@ TEST(ClockTest, WritesHoursOnlyWhereThereAreAny) {
   const std::pair<int, std::string> cases[] = {{59, "00:59"},     {600, "10:00"},      {3599, "59:59"},
                                                {3661, "1:01:01"}, {36000, "10:00:00"}, {-1, "00:00"}};
   for (const auto& [seconds, text] : cases) EXPECT_EQ(core::ClockText(seconds), text) << seconds;
-}
-
-TEST(BoardTotalsTest, AddUpTheFirstSeatsWhetherOrNotTheyAreMarkedAsPlaying) {
-  core::Game game = SeatedGame(0);
-  for (std::int16_t seat = 0; seat <= core::kSeats; ++seat) {
-    game.Players[static_cast<std::size_t>(seat)] = {
-        .Name = "", .Settlements = 30000, .Cities = seat, .TradeMetropolis = true, .ScienceMetropolis = seat >= 3};
-  }
-  const std::pair<std::int16_t, core::BoardTotals> cases[] = {{-32768, {}}, {3, {90000, 6, 4}}, {7, {180000, 21, 10}}};
-  for (const auto& [players, totals] : cases) {
-    game.NumPlayers = players;
-    EXPECT_EQ(core::CountBoard(game), totals) << players << " players";
-  }
 }
 
 }  // namespace
