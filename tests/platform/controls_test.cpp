@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "../../platform/desktop.h"
+#include "../drawn.h"
 #include "../keyboard.h"
 
 namespace tests {
@@ -71,9 +72,7 @@ TEST(SurfaceTest, KeepsTheStepsSinceTheLastClear) {
   surface.FontBold = true;
   surface.Print("second");
   for (const char* name : {"", "a.svg"}) surface.PaintPicture({name}, 1, 2);
-  const DrawingStep first = TextStep{5, 6, "first", {0, 0, 0}, {"Verdana", 20, false}};
-  const DrawingStep second = TextStep{5, 6, "second", {0x41, 0x69, 0xE1}, {"Verdana", 20, true}};
-  EXPECT_THAT(surface.Steps(), ElementsAre(first, second, PictureStep{1, 2, {"a.svg"}}));
+  EXPECT_EQ(Drawn(surface), (Lines{"5,6 'first' 20 000000", "5,6 'second' 20+ 4169E1", "1,2 a.svg"}));
   EXPECT_EQ(changes, 5);
 }
 
