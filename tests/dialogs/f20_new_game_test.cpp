@@ -51,11 +51,10 @@ TEST_F(NewGameTest, StartTakesEveryFieldAndTheMainWindowFollows) {
   game.Players[4].Name = "kept";
   Open();
   Click(F20.optB);
-  const std::pair<platform::TextBox*, const char*> texts[] = {{&F20.txtSpielername(0), "Ada"},
-                                                              {&F20.txtSpielername(3), "edited, then hidden"},
-                                                              {&F20.txtSpieltitel, "title"},
-                                                              {&F20.txtSpielinfo, "info"}};
-  for (const auto& [field, text] : texts) F20.Type(*field, text);
+  F20.Type(F20.txtSpielername(0), "Ada");
+  F20.Type(F20.txtSpielername(3), "edited, then hidden");
+  F20.Type(F20.txtSpieltitel, "title");
+  F20.Type(F20.txtSpielinfo, "info");
   Click(F20.cmdB(0));
   Click(F20.chkSzen);
   Click(F20.cmdA(0));

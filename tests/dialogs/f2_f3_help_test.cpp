@@ -1,22 +1,15 @@
 // The about window with its running list, and the viewer of the text files that come with it.
-#include "../../mainwindow/main_window.h"
 #include "../drawn.h"
-#include "../scripted_services.h"
-#include "../storage/temporary_folder.h"
+#include "../main_window_fixture.h"
 
 namespace tests {
 namespace {
 
-struct HelpTest : TemporaryFolder {
-  ScriptedServices services;
-  mainwindow::MainWindow window{services};
+struct HelpTest : MainWindowTest {
   dialogs::F2& F2 = window.F2;
   dialogs::F3& F3 = window.F3;
 
-  HelpTest() {
-    EXPECT_EQ(window.Load(), mainwindow::Started::Yes);
-    services.Folder = Folder;
-  }
+  HelpTest() { services.Folder = Folder; }
   void Ticks(int count) {
     for (int i = 0; i < count; ++i) F3.timClock.Elapsed();
   }
@@ -49,18 +42,18 @@ TEST_F(HelpTest, AboutShowsTheVersionAndOnlyOkClosesIt) {
       {{3, 1, 302}, "V3.1.302"}, {{3, 1, 0}, "V3.1"}, {{2, 0, 7}, "V2.0.7"}};
   for (const auto& [version, text] : versions) {
     services.Version = version;
-    Key(window.F1, platform::FunctionKey(12));
+    Press(platform::FunctionKey(12));
     EXPECT_EQ(F3.lblFreeware.Caption.Get() + F3.Caption.Get(), std::string(text) + "Info");
     F3.PressCloseBox();
     Key(F3, platform::kKeyEscape);
-    EXPECT_TRUE(F3.Visible && !window.F1.Enabled);
+    EXPECT_TRUE(Locking(F3));
     Key(F3, platform::kKeyEnter);
-    EXPECT_TRUE(!F3.Visible && window.F1.Enabled);
+    EXPECT_TRUE(Closed(F3));
   }
 }
 
 TEST_F(HelpTest, TheViewerShowsAFileBesideTheMainWindowAndEmptiesWhereThereIsNone) {
-  const auto keys = [&] { Key(window.F1, platform::FunctionKey(11)); };
+  const Act keys = [&] { Press(platform::FunctionKey(11)); };
   keys();
   EXPECT_FALSE(F2.Visible);
   Put(Folder / "tastatur.txt", "");
@@ -81,14 +74,7 @@ TEST_F(HelpTest, TheViewerShowsAFileBesideTheMainWindowAndEmptiesWhereThereIsNon
   keys();
   EXPECT_TRUE(F2.Visible && F2.txtInfo.Text.Get().empty() && services.Boxes.empty());
   F2.PressCloseBox();
-  EXPECT_TRUE(!F2.Visible && window.F1.Enabled);
-}
-
-TEST_F(HelpTest, AFolderIsNoReadme) {
-  std::filesystem::create_directory(Folder / "readme.txt");
-  window.F1_mnuHelpInfo_Click();
-  Click(F3.cmdShowReadme);
-  EXPECT_TRUE(!F2.Visible && F3.Visible);
+  EXPECT_TRUE(Closed(F2));
 }
 
 }  // namespace

@@ -22,48 +22,41 @@ TEST_F(GameInfoTest, SummaryAndPicturesAreThoseOfTheGameAtEachOpening) {
   const std::string base = "Basisspiel\r\n", expansion = "\"Burgen und Wächter\" Erweiterung\r\n",
                     second = "\"Flottillen\" Erweiterung\r\n", scenario = "Dies ist ein Szenario\r\n",
                     points = "Siegbedingung: 13 Siegpunkte";
-  struct Case {
-    std::int16_t GameType, Players, Flottillen, Scenario;
-    const char* Pictures;
-    std::string Summary;
-  };
-  const Case cases[] = {{3, 6, 1, 1, "2354", expansion + "6 Spieler\r\n" + second + scenario + points},
-                        {2, 4, 0, 0, "1---", base + "4 Spieler\r\n" + points},
-                        {2, 5, 1, 0, "13-4", base + "5 Spieler\r\n" + second + points},
-                        {3, 2, 0, 1, "2-5-", expansion + "2 Spieler\r\n" + scenario + points},
-                        {9, 4, 2, -1, "235-", expansion + "4 Spieler\r\n" + second + scenario + points}};
+  // Kind of game, players, the two options.
+  const std::tuple<std::int16_t, std::int16_t, std::int16_t, std::int16_t, const char*, std::string> cases[] = {
+      {3, 6, 1, 1, "2354", expansion + "6 Spieler\r\n" + second + scenario + points},
+      {2, 4, 0, 0, "1---", base + "4 Spieler\r\n" + points},
+      {2, 5, 1, 0, "13-4", base + "5 Spieler\r\n" + second + points},
+      {3, 2, 0, 1, "2-5-", expansion + "2 Spieler\r\n" + scenario + points},
+      {9, 4, 2, -1, "235-", expansion + "4 Spieler\r\n" + second + scenario + points}};
   game.WinPoints = 13;
-  for (const Case& c : cases) {
-    game.GameType = c.GameType;
-    game.NumPlayers = c.Players;
-    game.OptFlottillen = core::CheckValue(c.Flottillen);
-    game.OptScenario = core::CheckValue(c.Scenario);
+  for (const auto& [gameType, players, flottillen, isScenario, pictures, summary] : cases) {
+    game.GameType = gameType;
+    game.NumPlayers = players;
+    game.OptFlottillen = core::CheckValue(flottillen);
+    game.OptScenario = core::CheckValue(isScenario);
     Press('I', {.Control = true});
     ASSERT_TRUE(Locking(F6));
-    EXPECT_EQ(F6.lblGameInfo.Caption.Get(), c.Summary);
-    EXPECT_EQ(Pictures(), c.Pictures);
+    EXPECT_EQ(F6.lblGameInfo.Caption.Get(), summary);
+    EXPECT_EQ(Pictures(), pictures);
     Click(F6.cmdOK);
   }
 }
 
-TEST_F(GameInfoTest, EveryWayOutTakesBothTextsOverAsTheyStand) {
-  const std::tuple<const char*, const char*, Act> rows[] = {{"Abend bei Zoë", "", [&] { Click(F6.cmdOK); }},
-                                                            {"", "Runde 2", [&] { F6.PressCloseBox(); }},
-                                                            {" a\"b,c ", "x", [&] { Key(F6, platform::kKeyEnter); }}};
-  std::string before = game.GameTitle + "|" + game.GameInfo;
-  for (const auto& [title, info, leave] : rows) {
+TEST_F(GameInfoTest, LeavingTakesBothTextsOverAsTheyStand) {
+  std::pair<std::string, std::string> before(game.GameTitle, game.GameInfo);
+  for (const auto& texts : {std::pair<std::string, std::string>("Abend bei Zoë", ""), {" a\"b,c ", "Runde 2"}}) {
     window.F1.ClickTool(window.F1.tbrMenu, 4);
     EXPECT_EQ(F6.Caption.Get(), "Spiel-Info");
     EXPECT_EQ(F6.Focus(), &F6.txtSpieltitel) << "wherever it was when the dialog was left";
-    EXPECT_EQ(F6.txtSpieltitel.Text.Get() + "|" + F6.txtSpielinfo.Text.Get(), before);
-    F6.Type(F6.txtSpieltitel, title);
-    F6.Type(F6.txtSpielinfo, info);
-    EXPECT_EQ(game.GameTitle + "|" + game.GameInfo, before);
+    EXPECT_EQ(std::pair(F6.txtSpieltitel.Text.Get(), F6.txtSpielinfo.Text.Get()), before);
+    F6.Type(F6.txtSpieltitel, texts.first);
+    F6.Type(F6.txtSpielinfo, texts.second);
     Key(F6, platform::kKeyEscape);
-    leave();
-    EXPECT_TRUE(Closed(F6));
-    before = std::string(title) + "|" + info;
-    EXPECT_EQ(game.GameTitle + "|" + game.GameInfo, before);
+    EXPECT_EQ(std::pair(game.GameTitle, game.GameInfo), before);
+    texts.second.empty() ? Click(F6.cmdOK) : F6.PressCloseBox();
+    before = texts;
+    EXPECT_EQ(std::pair(game.GameTitle, game.GameInfo), before);
   }
 }
 

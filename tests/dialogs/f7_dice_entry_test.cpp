@@ -22,14 +22,8 @@ struct DiceEntryTest : MainWindowTest {
 constexpr std::int16_t kBase = core::kBaseGame, kExpansion = core::kFirstExpansion;
 
 TEST_F(DiceEntryTest, EveryPathToAWholeRollRecordsItAndUnlocks) {
-  struct Case {
-    const char* What;
-    std::int16_t GameType;
-    Act Roll;
-    core::TRoll Logged;
-  };
   auto& keys = settings.EventHotkey;
-  const Case cases[] = {
+  const std::tuple<const char*, std::int16_t, Act, core::TRoll> cases[] = {
       {"two digits and an event key", kExpansion, [&] { Type("43B"); }, {4, 3, 4}},
       {"clicks and OK", kExpansion, [&] { Open(), Event(2), Red(5), Black(1), Click(F7.cmdOK); }, {1, 5, 2}},
       {"event key in the base game", kBase, [&] { Type("43P"); }, {4, 3, 1}},
@@ -44,17 +38,17 @@ TEST_F(DiceEntryTest, EveryPathToAWholeRollRecordsItAndUnlocks) {
       {"dice without event die", kExpansion, [&] { Type("43\r"); }, {}},
       {"event die without red die", kExpansion, [&] { Open(), Black(1), Event(1), Enter(); }, {}},
   };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.What);
-    StartGame(c.GameType);
-    c.Roll();
-    if (c.Logged.Die1 == 0) {
+  for (const auto& [what, gameType, roll, logged] : cases) {
+    SCOPED_TRACE(what);
+    StartGame(gameType);
+    roll();
+    if (logged.Die1 == 0) {
       EXPECT_TRUE(Locking(F7) && !F7.cmdOK.Enabled && Rolls() == 0);
       Press(platform::kKeyEscape);
       continue;
     }
     EXPECT_TRUE(Closed(F7) && Rolls() == 1 && entry.DiceEntryStage == 0);
-    EXPECT_EQ(game.DiceLog[1], c.Logged);
+    EXPECT_EQ(game.DiceLog[1], logged);
   }
 }
 

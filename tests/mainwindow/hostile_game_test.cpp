@@ -3,19 +3,11 @@
 #include "../../storage/game_file.h"
 #include "../main_window_fixture.h"
 #include "../storage/random_state.h"
-#include "../storage/temporary_folder.h"
 
 namespace tests {
 namespace {
 
-class HostileGameTest : public TemporaryFolder {
- protected:
-  HostileGameTest() {
-    std::filesystem::copy(ORVANBEG_RUN_FOLDER, Folder, std::filesystem::copy_options::recursive);
-    services.Folder = Folder;
-    services.Answers.assign(10'000, platform::Answer::Yes);
-    EXPECT_EQ(window.Load(), mainwindow::Started::Yes);
-  }
+struct HostileGameTest : MainWindowTest {
   /// Leaves whatever is open, by Enter or the close box.
   void LeaveAll() {
     for (platform::Form* form : window.Desktop.Forms()) {
@@ -41,13 +33,13 @@ class HostileGameTest : public TemporaryFolder {
     }
     window.F1_timSpielzeit_Timer();
   }
-
-  ScriptedServices services;
-  mainwindow::MainWindow window{services};
 };
 
 TEST_F(HostileGameTest, AnyNumberAnywhereDoesNoHarm) {
   RandomState random(4711);
+  std::filesystem::copy(services.Folder, Folder, std::filesystem::copy_options::recursive);
+  services.Folder = Folder;
+  services.Answers.assign(10'000, platform::Answer::Yes);
   services.ChosenFile = (Folder / "hostile.obg").string();
   for (int i = 0; i < 25; ++i) {
     core::State state = random.Next();

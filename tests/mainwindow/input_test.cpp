@@ -29,38 +29,35 @@ TEST_F(MainWindowTest, UndoAsksFromEveryEntryAndNoIsTheWayBack) {
 }
 
 TEST_F(MainWindowTest, KeysWithAndWithoutModifiers) {
-  struct Case {
-    platform::KeyCode Code;
-    platform::Modifiers With;
-    int CurrentPlayer, DataPlayer, Die1;
-    bool Clamps;
-  };
   const platform::Modifiers none, shift{.Shift = true}, ctrl{.Control = true}, alt{.Alt = true};
-  const Case cases[] = {{FunctionKey(1), none, 1, 0, 0, true},
-                        {FunctionKey(2), none, 2, 0, 0, true},
-                        {FunctionKey(3), none, 3, 0, 0, false},
-                        {FunctionKey(4), none, 4, 0, 0, true},
-                        {FunctionKey(1), shift, 0, 1, 0, false},
-                        {FunctionKey(6), ctrl, 0, 6, 0, false},
-                        {FunctionKey(3), alt, 0, 3, 0, false},
-                        {FunctionKey(10), none, 0, 0, 0, true},
-                        {'1', none, 0, 0, 1, true},
-                        {'6', none, 0, 0, 6, true},
-                        {'0', none, 0, 0, 0, true},
-                        {'7', none, 0, 0, 0, true},
-                        {'3', shift, 0, 0, 0, false},
-                        {platform::kKeyNumberPad0 + 3, none, 0, 0, 0, true}};
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.Code);
+  // Key, current player, player of the data dialog, black die, whether the points are brought into two digits.
+  const std::tuple<platform::KeyCode, platform::Modifiers, int, int, int, bool> cases[] = {
+      {FunctionKey(1), none, 1, 0, 0, true},
+      {FunctionKey(2), none, 2, 0, 0, true},
+      {FunctionKey(3), none, 3, 0, 0, false},
+      {FunctionKey(4), none, 4, 0, 0, true},
+      {FunctionKey(1), shift, 0, 1, 0, false},
+      {FunctionKey(6), ctrl, 0, 6, 0, false},
+      {FunctionKey(3), alt, 0, 3, 0, false},
+      {FunctionKey(10), none, 0, 0, 0, true},
+      {'1', none, 0, 0, 1, true},
+      {'6', none, 0, 0, 6, true},
+      {'0', none, 0, 0, 0, true},
+      {'7', none, 0, 0, 0, true},
+      {'3', shift, 0, 0, 0, false},
+      {platform::kKeyNumberPad0 + 3, none, 0, 0, 0, true}};
+  for (const auto& [key, with, current, data, die, clamps] : cases) {
     mainwindow::MainWindow fresh(services);
     fresh.Load();
     core::Game& after = fresh.State.game;
     for (const std::size_t seat : {2U, 3U}) after.Players[seat].Active = false;
     after.PlayerPoints = {0, -1, 100, 99, -32768, 32767, 0};
-    Key(fresh.F1, c.Code, c.With);
-    EXPECT_TRUE(after.CurrentPlayer == c.CurrentPlayer && after.DataPlayer == c.DataPlayer);
-    EXPECT_TRUE(fresh.State.entry.Die1 == c.Die1 && fresh.F7.Visible == (c.Die1 > 0));
-    EXPECT_TRUE(after.PlayerPoints[1] == (c.Clamps ? 0 : -1) && after.PlayerPoints[5] == (c.Clamps ? 99 : 32767));
+    Key(fresh.F1, key, with);
+    EXPECT_EQ(std::tuple(after.CurrentPlayer, after.DataPlayer, fresh.State.entry.Die1, fresh.F7.Visible.Get()),
+              std::tuple(current, data, die, die > 0))
+        << key;
+    EXPECT_EQ(after.PlayerPoints[1], clamps ? 0 : -1) << key;
+    EXPECT_EQ(after.PlayerPoints[5], clamps ? 99 : 32767) << key;
   }
 }
 
@@ -87,26 +84,25 @@ TEST_F(MainWindowTest, MouseOnDiceAndPanelsAndTheCloseBox) {
 }
 
 TEST_F(MainWindowTest, EveryDialogLocksAndEveryWayOutUnlocks) {
-  const auto attack = [&] { game.EventCount[4] = 6, game.GameType = core::kFirstExpansion, Type("43B"); };
+  const Act attack = [&] { game.EventCount[4] = 6, game.GameType = core::kFirstExpansion, Type("43B"); };
   const std::tuple<platform::Form*, Act, platform::Control*, platform::KeyCode> dialogs[] = {
       {&window.F4, [&] { Press(FunctionKey(2)); }, &window.F4.cmdNix, platform::kKeyEscape},
+      {&window.F5, [&] { Press(FunctionKey(6), {.Alt = true}); }, &window.F5.cmdOK, platform::kKeyEnter},
+      {&window.F6, [&] { Press('I', {.Control = true}); }, &window.F6.cmdOK, platform::kKeyEnter},
       {&window.F7, [&] { Type("43"); }, &window.F7.cmdNoOK, platform::kKeyEscape},
       {&window.F9, [&] { Press('T', {.Control = true}); }, &window.F9.cmdOK, platform::kKeyEnter},
       {&window.F9, [&] { window.F1.ClickTool(window.F1.tbrMenu, 7); }, &window.F9.cmdOK, platform::kKeyEnter},
+      {&window.F10, [&] { Press('P', {.Control = true}); }, &window.F10.cmdPrintCancel, platform::kKeyEscape},
       {&window.F11, attack, &window.F11.cmdOK, platform::kKeyEnter},
       {&window.F20, [&] { Press('N', {.Control = true}); }, &window.F20.cmdCancel, platform::kKeyEscape}};
   for (const auto& [dialog, open, button, key] : dialogs) {
-    const platform::KeyCode code = key;
-    platform::Control& out = *button;
-    platform::Form& form = *dialog;
-    for (const Act& leave :
-         {Act([&] { Click(out); }), Act([&] { Key(form, code); }), Act([&] { form.PressCloseBox(); })}) {
+    for (int way = 0; way < 3; ++way) {
       open();
-      EXPECT_TRUE(Locking(form)) << form.Name;
+      EXPECT_TRUE(Locking(*dialog)) << dialog->Name;
       Click(window.F1.picWurfel(0), MouseButton::Right);  // the main window takes nothing
       window.F1.PressCloseBox();
-      leave();
-      EXPECT_TRUE(Closed(form)) << form.Name;
+      way == 0 ? Click(*button) : way == 1 ? Key(*dialog, key) : dialog->PressCloseBox();
+      EXPECT_TRUE(Closed(*dialog)) << dialog->Name << ", way " << way;
     }
   }
   EXPECT_TRUE(Rolls() == 3 && services.QuitStatus == -1) << "only the attacks come with a roll";
