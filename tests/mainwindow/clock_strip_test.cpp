@@ -13,7 +13,8 @@ TEST_F(MainWindowTest, StripShowsTotalsAndTheClocksOrThePause) {
   // Kind of game, running, clock of the game, clock of the turn, what stands behind the totals.
   const std::tuple<std::int16_t, bool, bool, bool, Lines> cases[] = {
       {2, true, true, true, both}, {3, true, true, false, whole},  {2, true, false, true, turn},
-      {2, true, false, false, {}}, {2, false, true, false, pause}, {2, false, false, false, {}}};
+      {2, true, false, false, {}}, {2, false, true, false, pause}, {3, false, false, true, pause},
+      {2, false, false, false, {}}};
   // Outer size 9585 by 9000: half of the width is rounded down.
   window.F1.FrameWidth = 90;
   window.F1.MenuBarHeight = 300;
