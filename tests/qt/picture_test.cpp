@@ -91,13 +91,4 @@ TEST(Replay, TwipsAndScaledScreensKeepThePlace) {
   EXPECT_EQ(Inked(Painted(surface, platform::qt::kInTwips, 3)), QRect(30, 12, 30, 3));
 }
 
-TEST(Replay, TextHangsFromTheTopOfItsCell) {
-  Surface surface;
-  surface.ForeColor = kInk;
-  surface.FontSize = 9;
-  surface.PrintAt(20, 10, "H");
-  const QRect inked = Inked(Painted(surface));
-  EXPECT_TRUE(QRect(20, 11, 60, 12).contains(inked) && inked.left() <= 22) << inked.left() << "," << inked.top();
-}
-
 }  // namespace
