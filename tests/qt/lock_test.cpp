@@ -12,7 +12,8 @@ TEST_F(Lock, KeepsKeysAndMouseOutAndDoesNotLookGreyed) {
   platform::qt::FormWindow& main = WindowOf(Window.F1);
   main.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&main));
-  Type(Window.F1, Qt::Key_S, Qt::AltModifier);  // opens a menu
+  Type(Window.F1, Qt::Key_S, Qt::AltModifier);  // opens the menu that a click would close again
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
   auto* menus = main.findChild<QMenuBar*>();
   QTest::mouseClick(main.windowHandle(), Qt::LeftButton, {}, menus->actionGeometry(menus->actions()[0]).center());
   EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
