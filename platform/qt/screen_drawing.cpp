@@ -1,6 +1,7 @@
 #include "screen_drawing.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "convert.h"
 #include "pictures.h"
@@ -35,12 +36,14 @@ QRegion ScreenDrawing::Follow(std::span<const DrawingStep> now) {
 
 void ScreenDrawing::Paint(QPainter& painter, const QRegion& within) const {
   StepPainter paint(painter, measure_);
+  const double ratio = painter.device()->devicePixelRatioF();  // letters stand on whole pixels of the screen
   for (const ShownStep& shown : shown_) {
     if (!within.intersects(shown.Extent)) continue;
     const auto* text = std::get_if<TextStep>(&shown.Step);
     if (text && text->Room == 0) {
       paint.UseFace(*text);
-      painter.drawStaticText(measure_.At(text->X, text->Y), shown.Letters);
+      const QPointF at = measure_.At(text->X, text->Y);
+      painter.drawStaticText(QPointF(at.x(), std::round(at.y() * ratio) / ratio), shown.Letters);
     } else {
       std::visit(paint, shown.Step);
     }

@@ -12,7 +12,7 @@
 namespace {
 
 using platform::Surface;
-using platform::qt::kInPixels;
+using platform::qt::kInTwips;
 using platform::qt::ScreenDrawing;
 
 constexpr QSize kSize(240, 120);
@@ -21,7 +21,7 @@ QImage Whole(const Surface& surface) {
   QImage image(kSize, QImage::Format_RGB32);
   image.fill(Qt::black);
   QPainter painter(&image);
-  platform::qt::Replay(painter, surface, kInPixels);
+  platform::qt::Replay(painter, surface, kInTwips);
   return image;
 }
 
@@ -33,7 +33,7 @@ void DrawByChance(std::mt19937& chance, std::vector<std::uint_fast32_t>& seeds, 
     if (chance() % 4 == 0) seed = chance();
     std::mt19937 step(seed);
     const auto number = [&step](unsigned below) { return static_cast<int>(step() % below); };
-    const int x = number(240) - 20, y = number(120) - 20, to = number(120);
+    const int x = 15 * number(240) - 300, y = number(1800) - 300, to = 15 * number(120);
     surface.ForeColor = platform::Colour{static_cast<unsigned char>(number(256)), 200, 100};
     surface.FontSize = 8 + number(24);
     surface.FontBold = number(2) == 0;
@@ -53,7 +53,7 @@ TEST(ScreenDrawing, PaintingTheChangeEqualsPaintingAll) {
   std::mt19937 chance(20);
   std::vector<std::uint_fast32_t> seeds;
   Surface surface;
-  ScreenDrawing kept(kInPixels);
+  ScreenDrawing kept(kInTwips);
   QImage grown(kSize, QImage::Format_RGB32);
   grown.fill(Qt::black);
   for (int i = 0; i < 300; ++i) {
