@@ -18,7 +18,7 @@ namespace {
 // In rounds and bytes. The toolkit's own caches fill up in some hundred rounds; a window that is forgotten has
 // thousands.
 constexpr long kRounds = 40;
-constexpr long kCaches = 40'000;
+constexpr long kCaches = 100'000;
 constexpr long kMostGrowthPerRound = 16;
 
 long HeapBytes() {
