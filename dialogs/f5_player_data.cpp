@@ -44,10 +44,13 @@ constexpr int kNoText = 65;
 
 enum class Shown { Always, InBaseGame, InExpansion };
 
+using NumberOf = std::int16_t TPlayer::*;
+using FlagOf = bool TPlayer::*;
+
 /// What a row is about: a number with its bounds for the buttons and what stands for no number, or a flag.
 struct Row {
-  std::int16_t TPlayer::*Number = nullptr;
-  bool TPlayer::*Flag = nullptr;
+  NumberOf Number = nullptr;
+  FlagOf Flag = nullptr;
   int Highest = 0;
   const char* Otherwise = "";
   int Symbol = 0;

@@ -40,8 +40,8 @@ void MainWindow::F1_mnuHelpKeys_Click() { F2.ShowFile("tastatur.txt"); }
 void MainWindow::F1_mnuHelpInfo_Click() { F3.OpenAbout(); }
 
 void MainWindow::AutoRoll(core::EventDieOf command) {
-  core::AutoRoll(
-      State, *this, [this] { return services_.Random(); }, command);
+  const auto random = [this] { return services_.Random(); };
+  core::AutoRoll(State, *this, random, command);
 }
 
 }  // namespace mainwindow

@@ -33,7 +33,9 @@ bool AnotherIsSet(const Control& control) {
   return std::any_of(group.begin(), group.end(), [](const OptionButton* sibling) { return sibling->Value.Get(); });
 }
 
-CommandButton* FindButton(const Container& container, bool CommandButton::*role) {
+using ButtonRole = bool CommandButton::*;
+
+CommandButton* FindButton(const Container& container, ButtonRole role) {
   for (Control* control : container.Controls()) {
     auto* button = dynamic_cast<CommandButton*>(control);
     if (button && button->*role && button->Usable()) return button;

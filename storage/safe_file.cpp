@@ -111,7 +111,7 @@ bool NewFile::Write(std::string_view bytes) {
 
 /// Only the owner's own groups and, for a superuser, other owners can be kept; whoever saves then owns the file.
 bool NewFile::TakeRights(const struct stat& old) {
-  struct stat own {};
+  struct stat own = {};
   if (fstat(file_.Number(), &own) != 0) return false;
   if (own.st_uid != old.st_uid || own.st_gid != old.st_gid) {
     if (fchown(file_.Number(), old.st_uid, old.st_gid) != 0 && fchown(file_.Number(), own.st_uid, old.st_gid) != 0) {
@@ -124,7 +124,7 @@ bool NewFile::TakeRights(const struct stat& old) {
 
 /// The file that is there now, or nothing; a failure where something else bears its name or it may not be replaced.
 WriteOutcome LookAt(const std::filesystem::path& target, std::optional<struct stat>& old) {
-  struct stat found {};
+  struct stat found = {};
   if (target.filename().empty()) return Failed(ENOENT);
   if (lstat(target.c_str(), &found) != 0) return errno == ENOENT ? WriteOutcome{} : Failed();
   if (!S_ISREG(found.st_mode)) return Failed(EISDIR);

@@ -24,8 +24,8 @@ DrawnWidget::DrawnWidget(const Surface& drawing, const Measure& measure, QWidget
 
 void DrawnWidget::DrawingChanged() {
   if (std::exchange(due_, true)) return;
-  QMetaObject::invokeMethod(
-      this, [this] { update(TakeChange()); }, Qt::QueuedConnection);
+  const auto showChange = [this] { update(TakeChange()); };
+  QMetaObject::invokeMethod(this, showChange, Qt::QueuedConnection);
 }
 
 QRegion DrawnWidget::TakeChange() {

@@ -44,8 +44,8 @@ TEST_F(DiceLogTest, MenuKnowsThreeShipsOnSixSidesAndMouseFourEvenFaces) {
     for (const auto& [command, face] : {std::pair(core::EventDieOf::Menu, menu), {core::EventDieOf::Mouse, mouse}}) {
       const double numbers[] = {0.999999, 0.5, random};  // one for each die
       game = {};
-      core::AutoRoll(
-          state, *this, [number = numbers]() mutable { return *number++; }, command);
+      const auto next = [number = numbers]() mutable { return *number++; };
+      core::AutoRoll(state, *this, next, command);
       EXPECT_EQ(game.DiceLog[1], (TRoll{6, 4, face})) << random;
     }
   }

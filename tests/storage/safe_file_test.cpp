@@ -40,7 +40,7 @@ Function* Real(const char* name) {
 }
 
 bool IsFolder(int file) {
-  struct stat found {};
+  struct stat found = {};
   return fstat(file, &found) == 0 && S_ISDIR(found.st_mode);
 }
 
@@ -133,7 +133,7 @@ TEST_F(SafeFileTest, FollowsLinksAndKeepsRights) {
     EXPECT_EQ(Save("new"), WriteFailure::None);
     EXPECT_EQ(Rights(target), rights);
   }
-  struct stat found {};
+  struct stat found = {};
   if (geteuid() == 0 && chown(target.c_str(), 1234, 1235) == 0) {  // a superuser saves what is another's
     EXPECT_EQ(Save("newer"), WriteFailure::None);
     EXPECT_EQ(stat(target.c_str(), &found), 0);
