@@ -31,7 +31,7 @@ std::string ClockText(int seconds) {
 
 BoardTotals CountBoard(const Game& game) {
   BoardTotals totals;
-  for (const TPlayer& player : WithoutPlaceZero(game.Players).first(static_cast<std::size_t>(SeatsPlayed(game)))) {
+  for (const TPlayer& player : PlayersAtTheTable(game)) {
     totals.Settlements += player.Settlements;
     totals.Cities += player.Cities;
     totals.Metropolises += MetropolisCount(player);

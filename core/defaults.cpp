@@ -18,7 +18,7 @@ void SetDefaults(State& state) {
 
 void BeginWithoutGame(State& state) {
   for (int seat = 1; seat <= kSeats; ++seat) {
-    TPlayer& player = state.game.Players[static_cast<std::size_t>(seat)];
+    TPlayer& player = state.game.Players[seat];
     player = TPlayer{.Name = player.Name, .Settlements = 2, .Active = seat <= kDefaultPlayers};
   }
   state.game.GameWon = false;

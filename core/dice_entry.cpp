@@ -36,7 +36,7 @@ Entered EnterKey(State& state, int keyCode) {
   if (state.entry.DiceEntryStage != 2 || keyCode == 0) return Entered::Nothing;
   Entered entered = Entered::Nothing;
   for (std::int16_t face = 1; face <= kEventFaces; ++face) {
-    if (state.settings.EventHotkey[static_cast<std::size_t>(face)] != keyCode) continue;
+    if (state.settings.EventHotkey[face] != keyCode) continue;
     state.entry.EventDie = face;
     entered = Entered::EventFace;
   }

@@ -28,7 +28,7 @@ bool Record(State& state) {
   Change(game.EventCount, roll.EventDie, 1);
   const int entry = CountTotalRolls(game);
   // Counts from a file may be negative: entry 0 and below are never written.
-  if (entry >= 1 && entry <= kLoggedRolls) game.DiceLog[static_cast<std::size_t>(entry)] = roll;
+  if (entry >= 1 && entry <= kLoggedRolls) game.DiceLog[entry] = roll;
   return true;
 }
 
@@ -63,7 +63,7 @@ void UndoLastRoll(State& state, Screen& screen) {
   Game& game = state.game;
   const int entry = CountTotalRolls(game);
   if (entry >= 0 && entry <= kLoggedRolls) {
-    TRoll& roll = game.DiceLog[static_cast<std::size_t>(entry)];
+    TRoll& roll = game.DiceLog[entry];
     Change(game.DiceCount, roll.Die1 + roll.Die2, -1);
     Change(game.EventCount, roll.EventDie, -1);
     roll = {};

@@ -22,7 +22,7 @@ double TheoryShare(int sum) {
 void ComputeDiceFigures(Game& game) {
   CountTotalRolls(game);
   game.MaxDiceCount = *std::max_element(game.DiceCount.begin() + kLowestSum, game.DiceCount.end());
-  for (std::size_t sum = kLowestSum; sum <= kHighestSum; ++sum) {
+  for (int sum = kLowestSum; sum <= kHighestSum; ++sum) {
     const float count = game.DiceCount[sum];
     const bool none = count == 0 || game.TotalRolls == 0;
     game.DicePercent[sum] = none ? 0 : count * 100 / static_cast<float>(game.TotalRolls);
@@ -40,12 +40,10 @@ long long ChartMarkerLength(const Game& game, int barUnit, int sum) {
   return WholeDivide(static_cast<double>(game.TotalRolls) * barUnit * TheoryShare(sum), 100);
 }
 
-bool IsAboveShare(const Game& game, int sum) {
-  return game.DicePercent[static_cast<std::size_t>(sum)] > static_cast<float>(TheoryShare(sum));
-}
+bool IsAboveShare(const Game& game, int sum) { return game.DicePercent[sum] > static_cast<float>(TheoryShare(sum)); }
 
 long long EventPercent(const Game& game, int face) {
-  return WholeDivide(game.EventCount[static_cast<std::size_t>(face)] * 100.0, game.TotalRolls);
+  return WholeDivide(game.EventCount[face] * 100.0, game.TotalRolls);
 }
 
 }  // namespace core

@@ -3,11 +3,12 @@
 // signed; a game file may bring any such number, so whoever uses one as an index checks it.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 
 #include "flags.h"
+#include "numbered.h"
+#include "texts.h"
 
 namespace core {
 
@@ -55,20 +56,20 @@ struct TRoll {
 };
 
 /// Theoretical share of each sum in percent, with one decimal, as the figures show it.
-inline constexpr std::array<float, 13> DiceProbability{0,     0,     2.8F,  5.6F, 8.3F, 11.1F, 13.9F,
-                                                       16.7F, 13.9F, 11.1F, 8.3F, 5.6F, 2.8F};
+inline constexpr Numbered<float, 13> DiceProbability{0,     0,     2.8F,  5.6F, 8.3F, 11.1F, 13.9F,
+                                                     16.7F, 13.9F, 11.1F, 8.3F, 5.6F, 2.8F};
 
 /// What a game file holds and what is derived from it. Index 0 of the arrays holds no game data.
 struct Game {
-  std::array<TPlayer, kSeats + 1> Players;
-  std::array<std::int16_t, kSeats + 1> PlayerPoints{};
-  std::array<bool, kSeats + 1> LeaderFlag{};
-  std::array<std::int16_t, kHighestSum + 1> DiceCount{};   ///< by sum
-  std::array<std::int16_t, kEventFaces + 1> EventCount{};  ///< by face; 0 counts the rolls without event die
-  std::array<TRoll, kLoggedRolls + 1> DiceLog;
-  std::array<TRoll, kSeats + 1> LegacyRolls;         ///< six records of old game files, at 0 to 5
-  std::array<float, kHighestSum + 1> DicePercent{};  ///< measured share of each sum
-  std::array<std::int16_t, 2> Clock{};               ///< seconds: 0 the game, 1 since the last roll
+  Numbered<TPlayer, kSeats + 1> Players;
+  Numbered<std::int16_t, kSeats + 1> PlayerPoints{};
+  Numbered<bool, kSeats + 1> LeaderFlag{};
+  Numbered<std::int16_t, kHighestSum + 1> DiceCount{};   ///< by sum
+  Numbered<std::int16_t, kEventFaces + 1> EventCount{};  ///< by face; 0 counts the rolls without event die
+  Numbered<TRoll, kLoggedRolls + 1> DiceLog;
+  Numbered<TRoll, kSeats + 1> LegacyRolls;         ///< six records of old game files, at 0 to 5
+  Numbered<float, kHighestSum + 1> DicePercent{};  ///< measured share of each sum
+  Numbered<std::int16_t, 2> Clock{};               ///< seconds: 0 the game, 1 since the last roll
   std::int16_t GameType = 0;
   std::int16_t NumPlayers = 0;
   std::int16_t WinPoints = 0;
@@ -97,7 +98,7 @@ struct Settings {
   bool ShowGameTime = false;
   bool ShowPlayerTime = false;
   CheckValue Contrast;
-  std::array<std::int16_t, kEventFaces + 1> EventHotkey{};  ///< character code of each face's key
+  Numbered<std::int16_t, kEventFaces + 1> EventHotkey{};  ///< character code of each face's key
 };
 
 /// The roll being entered, or the last one entered.
@@ -109,8 +110,8 @@ struct Entry {
 };
 
 struct Language {
-  std::array<std::string, kTextRoom + 1> Text;           ///< 1 to 118 are filled
-  std::array<std::string, kLanguageRoom + 1> Languages;  ///< 0 the chosen one, 1 to 10 the file's
+  Numbered<std::string, kTextRoom + 1> Text;           ///< 1 to 118 are filled
+  Numbered<std::string, kLanguageRoom + 1> Languages;  ///< 0 the chosen one, 1 to 10 the file's
 };
 
 struct State {
@@ -120,7 +121,7 @@ struct State {
   core::Language language;
   std::int16_t AboutFrame = 0;  ///< step of the about window's running list
 
-  const std::string& Text(int number) const { return language.Text.at(static_cast<std::size_t>(number)); }
+  const std::string& Text(int number) const { return language.Text[number]; }
 };
 
 }  // namespace core

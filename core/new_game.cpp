@@ -15,10 +15,7 @@ void TakeChoices(Game& game, const NewGame& chosen) {
   game.OptScenario = chosen.Scenario;
   game.GameTitle = chosen.Title;
   game.GameInfo = chosen.Info;
-  const int seats = SeatsPlayed(game);
-  for (std::size_t seat = 1; seat <= static_cast<std::size_t>(seats); ++seat) {
-    game.Players[seat].Name = chosen.Names[seat];
-  }
+  for (int seat = 1; seat <= SeatsPlayed(game); ++seat) game.Players[seat].Name = chosen.Names[seat];
 }
 
 void ClearCounts(Game& game) {
@@ -49,7 +46,7 @@ void StartGame(State& state, const NewGame& chosen) {
   ClearCounts(game);
   state.entry.DiceEntryStage = 0;
   for (int seat = 1; seat <= kSeats; ++seat) {
-    TPlayer& player = game.Players[static_cast<std::size_t>(seat)];
+    TPlayer& player = game.Players[seat];
     player = AtStart(player, game.GameType, seat <= game.NumPlayers);
   }
   game.ClockRunning = true;

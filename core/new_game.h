@@ -2,7 +2,6 @@
 // kind of game starts.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 
@@ -15,7 +14,7 @@ struct NewGame {
   std::int16_t NumPlayers = kDefaultPlayers;
   std::int16_t GameType = kBaseGame;
   std::int16_t WinPoints = 0;
-  std::array<std::string, kSeats + 1> Names;  ///< by seat; those above `NumPlayers` are not looked at
+  Numbered<std::string, kSeats + 1> Names;  ///< by seat; those above `NumPlayers` are not looked at
   CheckValue Flottillen;
   CheckValue Scenario;
   std::string Title;

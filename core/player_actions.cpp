@@ -33,10 +33,10 @@ struct TitleMove {
 
 /// The first limit that is met gives the reason.
 constexpr std::array kLimits{
-    Limit{kBuildSettlement, &TPlayer::Settlements, 5, {57, 59}},
-    Limit{kBuildCity, &TPlayer::Settlements, 0, {58, 60}},
-    Limit{kBuildCity, &TPlayer::Cities, 4, {59, 60}},
-    Limit{kLoseCity, &TPlayer::Cities, 0, {62, 63}},
+    Limit{kBuildSettlement, &TPlayer::Settlements, 5, {text::AllSettlementsBuilt, text::NoPieceLeft}},
+    Limit{kBuildCity, &TPlayer::Settlements, 0, {text::NoSettlementForCity, text::CannotBuildCity}},
+    Limit{kBuildCity, &TPlayer::Cities, 4, {text::NoPieceLeft, text::CannotBuildCity}},
+    Limit{kLoseCity, &TPlayer::Cities, 0, {text::NoCityToLose, text::NoCity}},
 };
 
 constexpr std::array kChanges{
@@ -73,7 +73,7 @@ std::optional<Refusal> RefusalOf(int actionCode, const TPlayer& player) {
 
 std::optional<Refusal> ApplyPlayerAction(Game& game) {
   if (!IsSeat(game.CurrentPlayer)) return std::nullopt;
-  TPlayer& player = game.Players[static_cast<std::size_t>(game.CurrentPlayer)];
+  TPlayer& player = game.Players[game.CurrentPlayer];
   if (const auto refusal = RefusalOf(game.ActionCode, player)) return refusal;
   for (const Change& change : kChanges) {
     if (change.Code == game.ActionCode) player.*change.Of = Saturate16(player.*change.Of + change.By);

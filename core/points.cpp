@@ -49,8 +49,7 @@ std::optional<int> WinningSeat(const State& state) {
   if (!state.settings.ShowWinner) return std::nullopt;
   const Game& game = state.game;
   for (int seat = 1; seat <= kSeats; ++seat) {
-    const auto place = static_cast<std::size_t>(seat);
-    if (game.LeaderFlag[place] && game.PlayerPoints[place] >= game.WinPoints) return seat;
+    if (game.LeaderFlag[seat] && game.PlayerPoints[seat] >= game.WinPoints) return seat;
   }
   return std::nullopt;
 }

@@ -9,7 +9,7 @@ namespace {
 
 std::vector<RankedPlayer> AllSeats(const Game& game) {
   std::vector<RankedPlayer> players;
-  for (std::size_t seat = 1; seat <= kSeats; ++seat) {
+  for (int seat = 1; seat <= kSeats; ++seat) {
     const TPlayer& player = game.Players[seat];
     const std::int16_t points = player.Active ? game.PlayerPoints[seat] : std::int16_t{0};
     players.push_back({.Rank = 0, .Name = player.Name, .Active = player.Active, .Points = points});

@@ -21,4 +21,9 @@ inline bool IsSeat(int number) { return number >= 1 && number <= kSeats; }
 /// `NumPlayers`, at least 0 and at most the six seats.
 inline int SeatsPlayed(const Game& game) { return std::clamp<int>(game.NumPlayers, 0, kSeats); }
 
+/// The players of the seats 1 to `NumPlayers`, whether or not they are marked as playing.
+inline std::span<const TPlayer> PlayersAtTheTable(const Game& game) {
+  return WithoutPlaceZero(game.Players).first(static_cast<std::size_t>(SeatsPlayed(game)));
+}
+
 }  // namespace core

@@ -68,7 +68,7 @@ void F11::ShowAttack() {
   picShowPlayers.Drawing.Cls();
   const int seats = core::SeatsPlayed(state().game);
   for (int seat = 1; seat <= seats; ++seat) {
-    DrawRow(state().game.Players[static_cast<std::size_t>(seat)], (seat - 1) * kRowHeight);
+    DrawRow(state().game.Players[seat], (seat - 1) * kRowHeight);
   }
   DrawTotals();
   picShowPlayers.SpokenName = picShowPlayers.Drawing.Spoken();

@@ -156,7 +156,7 @@ void F20::OpenNewGame() {
   if (!optA.Value && !optB.Value) optA.Value = true;
   SetFocus(optB.Value ? optB : optA);
   for (int i = 0; i < core::kSeats; ++i) {
-    txtSpielername(i).Text = state().game.Players[static_cast<std::size_t>(i + 1)].Name;
+    txtSpielername(i).Text = state().game.Players[i + 1].Name;
   }
   UpdatePlayerFields(std::clamp<int>(state().game.NumPlayers, kFewestPlayers, core::kSeats));
   Open();
@@ -197,7 +197,7 @@ void F20::F20_cmdStart_Click() {
   chosen.NumPlayers = NumberIn(txtNOP);
   chosen.GameType = optB.Value ? core::kFirstExpansion : core::kBaseGame;
   chosen.WinPoints = NumberIn(txtneuSPBed);
-  for (int i = 0; i < core::kSeats; ++i) chosen.Names[static_cast<std::size_t>(i + 1)] = txtSpielername(i).Text;
+  for (int i = 0; i < core::kSeats; ++i) chosen.Names[i + 1] = txtSpielername(i).Text;
   chosen.Flottillen = Ticked(chkFlo);
   chosen.Scenario = Ticked(chkSzen);
   chosen.Title = txtSpieltitel.Text;

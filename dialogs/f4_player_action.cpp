@@ -84,7 +84,7 @@ void F4::SetCaptions() {
 
 void F4::OpenActionDialog(int seat) {
   state().game.CurrentPlayer = static_cast<std::int16_t>(seat);
-  const std::string& name = state().game.Players[static_cast<std::size_t>(seat)].Name;
+  const std::string& name = state().game.Players[seat].Name;
   Caption = state().Text(34) + " " + name + " (" + state().Text(16) + " " + std::to_string(seat) + ")";
   Open();
 }
@@ -102,7 +102,7 @@ void F4::Apply() {
   core::Game& game = state().game;
   const auto refusal = core::ApplyPlayerAction(game);
   if (!refusal) return;
-  const std::string& name = game.Players[static_cast<std::size_t>(game.CurrentPlayer)].Name;
+  const std::string& name = game.Players[game.CurrentPlayer].Name;
   context_.services.MessageBox(name + " " + state().Text(refusal->MessageText), state().Text(refusal->TitleText));
 }
 

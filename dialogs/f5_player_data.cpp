@@ -111,7 +111,7 @@ void F5::SetCaptions() {
   }
 }
 
-core::TPlayer& F5::Player() { return state().game.Players.at(static_cast<std::size_t>(state().game.DataPlayer)); }
+core::TPlayer& F5::Player() { return state().game.Players[state().game.DataPlayer]; }
 
 void F5::PrepareDataDialog() {
   if (!core::IsSeat(state().game.DataPlayer)) return;

@@ -81,7 +81,7 @@ void F7::SetPictures() {
 
 void F7::ShowHotkeys() {
   for (int i = 0; i < core::kEventFaces; ++i) {
-    const int code = state().settings.EventHotkey[static_cast<std::size_t>(i + 1)];
+    const int code = state().settings.EventHotkey[i + 1];
     lblHotkeyShow(i).Caption = storage::CharacterOf(code);
   }
 }

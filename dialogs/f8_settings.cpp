@@ -132,14 +132,14 @@ void F8::TickClocksAndContrast() {
 
 void F8::ShowHotkeys() {
   for (int i = 0; i < core::kEventFaces; ++i) {
-    txtEWHotkey(i).Text = storage::CharacterOf(state().settings.EventHotkey[static_cast<std::size_t>(i + 1)]);
+    txtEWHotkey(i).Text = storage::CharacterOf(state().settings.EventHotkey[i + 1]);
   }
 }
 
 void F8::ListLanguages() {
   comSelectLang.Clear();
   for (int i = 1; i <= core::kLanguageRoom; ++i) {
-    const std::string& name = state().language.Languages[static_cast<std::size_t>(i)];
+    const std::string& name = state().language.Languages[i];
     if (!name.empty()) comSelectLang.AddItem(name);
   }
 }
@@ -247,7 +247,7 @@ void F8::TakeOver() {
   for (int i = 0; i < core::kEventFaces; ++i) {
     const std::string key = storage::ToCodePage(txtEWHotkey(i).Text.Get());
     if (key.empty()) continue;
-    state().settings.EventHotkey[static_cast<std::size_t>(i + 1)] = static_cast<unsigned char>(key[0]);
+    state().settings.EventHotkey[i + 1] = static_cast<unsigned char>(key[0]);
   }
   HotkeysChanged();
 }

@@ -73,8 +73,7 @@ void DrawHead(const core::RankedPlayer& ranked, int y, Surface& table) {
 /// A row finds its player by the name, so players of one name share their cells.
 std::vector<TPlayer> PlayersOf(const core::RankedPlayer& ranked, const core::Game& game) {
   std::vector<TPlayer> found;
-  for (const TPlayer& player :
-       core::WithoutPlaceZero(game.Players).first(static_cast<std::size_t>(SeatsPlayed(game)))) {
+  for (const TPlayer& player : core::PlayersAtTheTable(game)) {
     if (player.Name == ranked.Name) found.push_back(player);
   }
   return found;

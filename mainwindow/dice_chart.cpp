@@ -64,19 +64,18 @@ void DrawHeads(const State& state, Surface& picW) {
 }
 
 void DrawFigures(const core::Game& game, int sum, int y, const std::string& separator, Surface& picW) {
-  const auto index = static_cast<std::size_t>(sum);
   picW.FontBold = true;
   picW.PrintAt(kSumX, y, std::to_string(sum));
   picW.FontBold = false;
-  picW.PrintAt(kCountX, y, std::to_string(game.DiceCount[index]) + " x");
-  picW.PrintAt(kMeasuredX, y, core::PercentText(game.DicePercent[index], separator));
-  picW.PrintAt(kTheoryX, y, core::PlainText(core::DiceProbability[index], separator) + "%");
+  picW.PrintAt(kCountX, y, std::to_string(game.DiceCount[sum]) + " x");
+  picW.PrintAt(kMeasuredX, y, core::PercentText(game.DicePercent[sum], separator));
+  picW.PrintAt(kTheoryX, y, core::PlainText(core::DiceProbability[sum], separator) + "%");
 }
 
 /// The bar of a sum inside the open bracket that shows how far it should reach.
 void DrawBar(const core::Game& game, int sum, int y, int barUnit, const BarColours& colours, Surface& picW) {
   const double end = kBarX + static_cast<double>(core::ChartMarkerLength(game, barUnit, sum));
-  const double bar = kBarX + game.DiceCount[static_cast<std::size_t>(sum)] * barUnit;
+  const double bar = kBarX + game.DiceCount[sum] * barUnit;
   picW.FillBox(kBarX, y, end, y + 2, kMarker);
   picW.FillBox(kBarX, y + 15, end, y + 13, kMarker);
   picW.FillBox(kBarX, y + 2, bar, y + 13, core::IsAboveShare(game, sum) ? colours.Above : colours.NotAbove);
@@ -112,12 +111,12 @@ void DrawEventDie(const State& state, Surface& picW) {
   picW.FontSize = 8;
   for (int face = 1; face <= core::kEventFaces; ++face) {
     const int y = 43 + (face - 1) * kEventPitch;
-    picW.PrintAt(kEventCountX, y, std::to_string(state.game.EventCount[static_cast<std::size_t>(face)]));
+    picW.PrintAt(kEventCountX, y, std::to_string(state.game.EventCount[face]));
     picW.PrintAt(kEventShareX, y, std::to_string(core::EventPercent(state.game, face)) + "%");
   }
   for (int face = 1; face <= core::kEventFaces; ++face) {
     const int y = 20 + (face - 1) * kEventPitch;
-    const int key = state.settings.EventHotkey[static_cast<std::size_t>(face)];
+    const int key = state.settings.EventHotkey[face];
     picW.FontBold = true;
     picW.PrintAt(kEventKeyX, y, "(" + storage::CharacterOf(key) + ")");
     picW.FontBold = false;
@@ -139,7 +138,7 @@ void DrawTotal(const State& state, Surface& picW) {
 
 std::string SpokenChart(const State& state) {
   std::string text = state.Text(26) + ": " + std::to_string(state.game.TotalRolls);
-  for (std::size_t sum = core::kLowestSum; sum <= core::kHighestSum; ++sum) {
+  for (int sum = core::kLowestSum; sum <= core::kHighestSum; ++sum) {
     text += "; " + std::to_string(sum) + ": " + std::to_string(state.game.DiceCount[sum]) + " x";
   }
   return text;

@@ -52,7 +52,7 @@ void DrawLastSix(const core::State& state, Surface& picInfoLine) {
   for (int place = 0; place < kShown; ++place) {
     const int entry = state.game.TotalRolls - (kShown - 1) + place;
     if (entry < 1 || entry > core::kLoggedRolls) continue;
-    DrawRoll(state.game.DiceLog[static_cast<std::size_t>(entry)], state.game.GameType, place, picInfoLine);
+    DrawRoll(state.game.DiceLog[entry], state.game.GameType, place, picInfoLine);
   }
 }
 

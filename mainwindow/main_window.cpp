@@ -64,7 +64,7 @@ void MainWindow::DrawPlayerPanels() {
 
 void MainWindow::ShowPlayerPanels() {
   for (int seat = 1; seat <= core::kSeats; ++seat) {
-    F1.picSP(seat - 1).Visible = State.game.Players[static_cast<std::size_t>(seat)].Active;
+    F1.picSP(seat - 1).Visible = State.game.Players[seat].Active;
   }
 }
 

@@ -43,7 +43,7 @@ void MainWindow::F1_Form_KeyUp(platform::KeyCode code, platform::Modifiers with)
 /// The key of a seat; false if nobody plays there. The first two seats always play.
 bool MainWindow::KeyOfSeat(int seat) {
   State.game.CurrentPlayer = static_cast<std::int16_t>(seat);
-  if (seat > 2 && !State.game.Players[static_cast<std::size_t>(seat)].Active) return false;
+  if (seat > 2 && !State.game.Players[seat].Active) return false;
   F4.OpenActionDialog(seat);
   return true;
 }

@@ -40,22 +40,20 @@ void PaintSymbols(const core::TPlayer& player, Surface& panel) {
 }
 
 void PaintPanel(const State& state, int seat, Surface& panel) {
-  const auto index = static_cast<std::size_t>(seat);
-  const int points = state.game.PlayerPoints[index];
-  panel.ForeColor = state.game.LeaderFlag[index] ? kLeading : kFollowing;
+  const int points = state.game.PlayerPoints[seat];
+  panel.ForeColor = state.game.LeaderFlag[seat] ? kLeading : kFollowing;
   panel.Cls();
-  PaintSymbols(state.game.Players[index], panel);
+  PaintSymbols(state.game.Players[seat], panel);
   Write(panel, 8, false, kTextX, kLabelY, state.Text(16) + " " + std::to_string(seat));
-  Write(panel, 18, true, kTextX, kNameY, state.game.Players[index].Name);
+  Write(panel, 18, true, kTextX, kNameY, state.game.Players[seat].Name);
   Write(panel, 32, true, points <= 9 ? kOneDigitX : kTwoDigitsX, kPointsY, core::PrintedNumber(points));
 }
 
 /// Seat, name and points; a leader by the rank.
 std::string SpokenPanel(const State& state, int seat) {
-  const auto index = static_cast<std::size_t>(seat);
-  const std::string rank = state.game.LeaderFlag[index] ? " (1.)" : "";
-  return state.Text(16) + " " + std::to_string(seat) + ": " + state.game.Players[index].Name + ", " +
-         std::to_string(state.game.PlayerPoints[index]) + " " + state.Text(71) + rank;
+  const std::string rank = state.game.LeaderFlag[seat] ? " (1.)" : "";
+  return state.Text(16) + " " + std::to_string(seat) + ": " + state.game.Players[seat].Name + ", " +
+         std::to_string(state.game.PlayerPoints[seat]) + " " + state.Text(71) + rank;
 }
 
 }  // namespace
@@ -63,7 +61,7 @@ std::string SpokenPanel(const State& state, int seat) {
 void PaintPanels(const State& state, platform::Services& services, F1& f1) {
   for (int seat = 1; seat <= core::kSeats; ++seat) {
     platform::PictureBox& panel = f1.picSP(seat - 1);
-    const auto ground = PanelPicture(state.settings.HG, seat, state.game.LeaderFlag[static_cast<std::size_t>(seat)]);
+    const auto ground = PanelPicture(state.settings.HG, seat, state.game.LeaderFlag[seat]);
     if (services.CanShow(ground)) panel.Image = ground;
     PaintPanel(state, seat, panel.Drawing);
     panel.SpokenName = SpokenPanel(state, seat);

@@ -51,7 +51,7 @@ void Write(Surface& page, double size, bool bold, double x, double y, const std:
 }
 
 void DrawPlayer(const State& state, int seat, Surface& page) {
-  const core::TPlayer& player = state.game.Players[static_cast<std::size_t>(seat)];
+  const core::TPlayer& player = state.game.Players[seat];
   const int top = kBoxTop + (seat - 1) * kBoxPitch;
   page.Box(kMargin, top, kMargin + kBoxWidth, top + kBoxHeight, platform::kBlack);
   int x = kMargin + 1;
@@ -59,7 +59,7 @@ void DrawPlayer(const State& state, int seat, Surface& page) {
     page.PaintPicture(windows::imlIcons.Image(symbol), x, top + 1);
     x += kSymbolPitch;
   }
-  const int points = state.game.PlayerPoints[static_cast<std::size_t>(seat)];
+  const int points = state.game.PlayerPoints[seat];
   const int pointsX = points > 9 ? 620 : 700;
   page.FontSize = 18;
   page.FontBold = true;
@@ -71,7 +71,7 @@ void DrawHeads(const State& state, Surface& page) {
   Write(page, 20, true, kMargin, kMargin, state.game.GameTitle);
   Write(page, 14, false, kMargin, kInfoY, state.game.GameInfo);
   for (int seat = 1; seat <= core::kSeats; ++seat) {
-    if (state.game.Players[static_cast<std::size_t>(seat)].Active) DrawPlayer(state, seat, page);
+    if (state.game.Players[seat].Active) DrawPlayer(state, seat, page);
   }
   Write(page, 14, false, kCountX, kHeadY, state.Text(17));
   Write(page, 14, false, kMeasuredX, kHeadY, state.Text(18));
@@ -81,7 +81,7 @@ void DrawHeads(const State& state, Surface& page) {
 /// The measured bar between two rails that reach as far as it should, closed at their end.
 void DrawBars(const core::Game& game, int sum, int y, int barUnit, Surface& page) {
   const double end = kBarX + core::RoundHalfEven(game.TotalRolls * barUnit * core::TheoryShare(sum) / 100);
-  const double bar = kBarX + game.DiceCount[static_cast<std::size_t>(sum)] * barUnit;
+  const double bar = kBarX + game.DiceCount[sum] * barUnit;
   page.FillBox(kBarX, y, end, y + 10, kExpected);
   page.FillBox(kBarX, y + 90, end, y + 80, kExpected);
   page.FillBox(kBarX, y + 10, bar, y + 80, core::IsAboveShare(game, sum) ? kMoreOften : kNotMoreOften);
@@ -92,12 +92,11 @@ void DrawRows(const State& state, const std::string& separator, Surface& page) {
   const core::Game& game = state.game;
   const int barUnit = game.MaxDiceCount > 0 ? kFullBar / game.MaxDiceCount : kFullBar;
   for (int sum = core::kLowestSum; sum <= core::kHighestSum; ++sum) {
-    const auto index = static_cast<std::size_t>(sum);
     const int y = kRowsY + (sum - 1) * kRowPitch;
     Write(page, 14, false, kSumX, y, std::to_string(sum));
-    page.PrintWithin(kCountX, y, kCountRoom, std::to_string(game.DiceCount[index]) + " " + state.Text(26));
-    page.PrintAt(kMeasuredX, y, core::PercentText(game.DicePercent[index], separator));
-    page.PrintAt(kTheoryX, y, core::PlainText(core::DiceProbability[index], separator) + "%");
+    page.PrintWithin(kCountX, y, kCountRoom, std::to_string(game.DiceCount[sum]) + " " + state.Text(26));
+    page.PrintAt(kMeasuredX, y, core::PercentText(game.DicePercent[sum], separator));
+    page.PrintAt(kTheoryX, y, core::PlainText(core::DiceProbability[sum], separator) + "%");
     DrawBars(game, sum, y, barUnit, page);
   }
 }
@@ -106,7 +105,7 @@ void DrawEventDie(const core::Game& game, Surface& page) {
   for (int face = 1; face <= core::kEventFaces; ++face) {
     const int x = kEventX + (face - 1) * kEventPitch;
     page.PaintPicture(windows::imlW.Image(face + windows::kBeforeEventFaces), x, kFootY);
-    const int count = game.EventCount[static_cast<std::size_t>(face)];
+    const int count = game.EventCount[face];
     Write(page, 10, false, x + kEventTextX, kFootY, std::to_string(count) + "x");
     page.PrintAt(x + kEventTextX, kEventShareY, std::to_string(core::EventPercent(game, face)) + "%");
   }

@@ -30,7 +30,7 @@ int ListLanguages(std::istream& file, core::Language& language) {
     if (line != kBlockMark || !reader.Next(line)) continue;
     // A name that is empty, or means that none was chosen, could never be chosen.
     if (listed == core::kLanguageRoom || line.empty() || line == core::kNoLanguageYet) continue;
-    language.Languages[static_cast<std::size_t>(++listed)] = line;
+    language.Languages[++listed] = line;
   }
   return listed;
 }
@@ -47,7 +47,7 @@ int LoadTexts(std::istream& file, core::Language& language) {
   std::string line;
   int count = 0;
   while (count < core::kTexts && reader.Next(line) && line != kBlockMark) {
-    language.Text[static_cast<std::size_t>(++count)] = line;
+    language.Text[++count] = line;
   }
   return count;
 }

@@ -11,7 +11,7 @@ namespace tests {
 namespace {
 
 using testing::ElementsAre;
-using Counts = std::array<std::int16_t, 13>;
+using Counts = core::Numbered<std::int16_t, 13>;
 
 core::Game GameOf(const Counts& counts) {
   core::Game game;

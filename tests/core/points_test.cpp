@@ -27,11 +27,11 @@ TEST(Points, AddUpAllHoldingsOfEverySeatWhetherItPlaysOrNot) {
 
 TEST(Winner, IsTheFirstLeaderWithThePointsToWinWhileOneIsToBeShown) {
   // Points, whether a winner is to be shown, the winner. The third has more than the first, who has enough, too.
-  const std::tuple<std::array<std::int16_t, 7>, bool, int> cases[] = {{{0, 9, 9, 9, 2, 2, 2}, true, 0},
-                                                                      {{0, 2, 10, 3, 10, 2, 2}, true, 2},
-                                                                      {{0, 10, 2, 11, 2, 2, 2}, true, 3},
-                                                                      {{0, 2, 2, 2, 2, 2, 12}, true, 6},
-                                                                      {{0, 2, 2, 2, 2, 2, 12}, false, 0}};
+  const std::tuple<Numbered<std::int16_t, 7>, bool, int> cases[] = {{{0, 9, 9, 9, 2, 2, 2}, true, 0},
+                                                                    {{0, 2, 10, 3, 10, 2, 2}, true, 2},
+                                                                    {{0, 10, 2, 11, 2, 2, 2}, true, 3},
+                                                                    {{0, 2, 2, 2, 2, 2, 12}, true, 6},
+                                                                    {{0, 2, 2, 2, 2, 2, 12}, false, 0}};
   for (const auto& [points, show, winner] : cases) {
     State state;
     state.game.PlayerPoints = points;
