@@ -15,6 +15,8 @@ namespace tests {
 
 class ScriptedServices : public platform::Services {
  public:
+  explicit ScriptedServices(std::filesystem::path folder = ORVANBEG_RUN_FOLDER) : Folder(std::move(folder)) {}
+
   struct Box {
     std::string Text, Title;
     platform::Buttons Buttons;
@@ -34,7 +36,7 @@ class ScriptedServices : public platform::Services {
   std::string FirstLanguage = "Deutsch";
   std::string ChosenFile;                 ///< empty: the file dialog is cancelled
   std::set<std::string> MissingPictures;  ///< by name
-  std::filesystem::path Folder = ORVANBEG_RUN_FOLDER;
+  std::filesystem::path Folder;           ///< the program's
   std::string Separator = ",";
   bool ScreenAwake = false;
   int QuitStatus = -1;  ///< -1: not asked to quit
