@@ -8,6 +8,8 @@ std::string WithoutMnemonic(const std::string& caption) {
     if (caption[i] == '&' && i + 1 < caption.size()) ++i;
     text += caption[i];
   }
+  const std::string dots = "...";
+  if (text.ends_with(dots)) text.resize(text.size() - dots.size());
   return text;
 }
 

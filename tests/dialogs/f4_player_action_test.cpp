@@ -16,7 +16,7 @@ struct PlayerActionTest : MainWindowTest {
     core::CalcPoints(game, window);
     Press(platform::FunctionKey(2));
     ASSERT_TRUE(Locking(F4));
-    EXPECT_EQ(F4.Caption.Get(), "Wähle Aktion für Ben (Spieler 2)");
+    EXPECT_EQ(F4.Caption.Get(), "Aktion wählen für Ben (Spieler 2)");
   }
   void Report(char key, bool byKey) {
     byKey ? Type(std::string(1, key)) : Click(F4.cmdSP(key == '0' ? 10 : key - '0'));
@@ -74,7 +74,7 @@ TEST_F(PlayerActionTest, RefusalIsToldAndAWinLocksTheMainWindowAgain) {
     OpenFor(core::kFirstExpansion, 1, 4);
     Report('2', byKey);
     EXPECT_THAT(services.Boxes, testing::ElementsAre(ScriptedServices::Box{
-                                    "Ben hat keine Spielfigur dieser Art mehr übrig", "Stadtausbau nicht möglich",
+                                    "Ben hat keine Spielfigur dieser Art mehr", "Stadtausbau nicht möglich",
                                     platform::Buttons::Ok, platform::Icon::None}));
     EXPECT_TRUE(Closed(F4));
     EXPECT_EQ(Holdings(), "1/4/0=9");

@@ -19,8 +19,8 @@ struct GameInfoTest : MainWindowTest {
 };
 
 TEST_F(GameInfoTest, SummaryAndPicturesAreThoseOfTheGameAtEachOpening) {
-  const std::string base = "Basisspiel\r\n", expansion = "\"Burgen und Wächter\" Erweiterung\r\n",
-                    second = "\"Flottillen\" Erweiterung\r\n", scenario = "Dies ist ein Szenario\r\n",
+  const std::string base = "Basisspiel\r\n", expansion = "Erweiterung „Burgen und Wächter“\r\n",
+                    second = "Erweiterung „Flottillen“\r\n", scenario = "Dies ist ein Szenario\r\n",
                     points = "Siegbedingung: 13 Siegpunkte";
   // Kind of game, players, the two options.
   const std::tuple<std::int16_t, std::int16_t, std::int16_t, std::int16_t, const char*, std::string> cases[] = {

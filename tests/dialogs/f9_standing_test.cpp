@@ -68,7 +68,7 @@ TEST_F(StandingTest, HeadlineNamesTheWinnerUntilTheStandingIsAskedFor) {
     won ? core::CalcPoints(game, window) : Press('T', {.Control = true});
     EXPECT_TRUE(Locking(F9) && game.GameWon == won);
     Click(F9.optWinOrder(0));  // the view changes no headline
-    EXPECT_EQ(F9.lblSiegertext.Caption.Get(), won ? "Ada hat gewonnen !" : "Zwischenstand");
+    EXPECT_EQ(F9.lblSiegertext.Caption.Get(), won ? "Ada hat gewonnen!" : "Zwischenstand");
     Key(F9, platform::kKeyEnter);
   }
 }

@@ -4,7 +4,7 @@ from virtual_screen import Failure, wait_for
 TABS_TO_FEWER_POINTS, TABS_TO_FEWER_PLAYERS, TABS_TO_FIRST_NAME = 3, 3, 3  # each from the stop before
 TABS_TO_START = 3  # from the last name, past title and info line
 SHIP, POLITICS = "b", "p"  # keys of the event die
-QUIT = "Quit program"
+QUIT = "Quit"
 
 
 def expect(is_so, what):

@@ -10,8 +10,8 @@ using platform::MouseButton;
 
 TEST_F(MainWindowTest, UndoAsksFromEveryEntryAndNoIsTheWayBack) {
   mainwindow::F1& F1 = window.F1;
-  const ScriptedServices::Box question{"Den letzten Würfelwert wirklich rückgängig machen?", "",
-                                       platform::Buttons::YesNo, platform::Icon::None};
+  const ScriptedServices::Box question{"Den letzten Wurf wirklich rückgängig machen?", "", platform::Buttons::YesNo,
+                                       platform::Icon::None};
   const Act entries[] = {[&] { F1.ClickMenu((*F1.MenuBar)["mnuExtraDelLastW"]); },
                          [&] { Press(platform::kKeyBackspace, {.Alt = true}); }, [&] { F1.ClickTool(F1.tbrMenu, 9); }};
   for (const Act& undo : entries) {

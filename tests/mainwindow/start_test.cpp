@@ -105,7 +105,7 @@ TEST_F(StartTest, FileDialogsAskAsToldAndWhatIsNoGameLeavesTheGame) {
   Choose("typed-without-extension");
   window.F1_mnuFileSaveAs_Click();
   const platform::FileDialog open = services.FileDialogs[0], save = services.FileDialogs[1];
-  EXPECT_EQ(open.DialogTitle + open.InitDir, "Öffnen..." + Folder.string());
+  EXPECT_EQ(open.DialogTitle + open.InitDir, "Öffnen" + Folder.string());
   EXPECT_EQ(open.Filter, save.Filter + "|Alle Dateien (*.*)|*.*");
   EXPECT_EQ(save.Filter, "Orvan-Begleiter-Spiele (*.obg)|*.obg");
   EXPECT_TRUE(open.Flags == 4096 && save.Flags == 2050 && exists(Folder / "typed-without-extension"));
