@@ -50,11 +50,7 @@ void RecordRoll(State& state, Screen& screen) {
   const bool recorded = Record(state);
   screen.ShowRolledDice();
   screen.DrawDiceStats();
-  if (recorded && IsAttack(state)) {
-    screen.ShowAttack();
-  } else {
-    screen.UnlockMainWindow();
-  }
+  if (recorded && IsAttack(state)) screen.ShowAttack();
   state.game.Clock[1] = 0;
   screen.CloseDiceDialog();
 }

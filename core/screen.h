@@ -13,8 +13,7 @@ class Screen {
   virtual void ShowRolledDice() = 0;    ///< `Die1`, `Die2`, `EventDie` as pictures of the main window
   virtual void ShowStanding() = 0;      ///< the ranking, as winner window or on request
   virtual void ShowAttack() = 0;        ///< fills and opens the barbarian window
-  virtual void UnlockMainWindow() = 0;
-  virtual void CloseDiceDialog() = 0;  ///< no effect if it was not open
+  virtual void CloseDiceDialog() = 0;   ///< which unlocks the main window, unless the attack keeps it locked
 };
 
 }  // namespace core

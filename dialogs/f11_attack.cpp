@@ -64,7 +64,7 @@ void F11::SetCaptions() {
 
 void F11::ShowAttack() {
   Visible = true;
-  ShareLock();
+  if (context_.lock.IsTaken()) context_.lock.Take(*this);
   picShowPlayers.Drawing.Cls();
   const int seats = core::SeatsPlayed(state().game);
   for (int seat = 1; seat <= seats; ++seat) {

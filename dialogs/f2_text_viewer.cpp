@@ -18,9 +18,10 @@ constexpr std::size_t kMostShown = 1 << 16;  // bytes; a text field is slow with
 }  // namespace
 
 F2::F2(const windows::Context& context)
-    : Dialog(context, "F2", kClientWidth, kClientHeight),
+    : Form(context.desktop, "F2", kClientWidth, kClientHeight),
       txtInfo(this, "txtInfo", kTextPlace),
-      cmdOK(this, "cmdOK", kOkPlace) {
+      cmdOK(this, "cmdOK", kOkPlace),
+      context_(context) {
   Caption = "Orvan Begleiter";
   txtInfo.MultiLine = true;
   txtInfo.ReadOnly = true;
@@ -40,7 +41,7 @@ void F2::ShowFile(const std::string& name) {
   for (std::string line; reader.Next(line) && text.size() + line.size() < kMostShown;) text += "\r\n" + line;
   txtInfo.Text = text;
   SetFocus(txtInfo);  // so that the keys scroll
-  BringUp();
+  Show();
 }
 
 }  // namespace dialogs

@@ -5,7 +5,7 @@
 
 namespace dialogs {
 
-class F2 : public windows::Dialog {
+class F2 : public platform::Form {
  public:
   explicit F2(const windows::Context& context);
 
@@ -15,7 +15,9 @@ class F2 : public windows::Dialog {
   /// Shows the file of this name in the program's folder. One that cannot be read shows nothing: a hidden viewer stays
   /// hidden, an open one is emptied.
   void ShowFile(const std::string& name);
-  void SetCaptions() override {}
+
+ private:
+  windows::Context context_;
 };
 
 }  // namespace dialogs

@@ -1,7 +1,6 @@
 #include "f4_player_action.h"
 
 #include "../core/player_actions.h"
-#include "../core/points.h"
 #include "../windows/form_metrics.h"
 #include "../windows/image_lists.h"
 
@@ -106,17 +105,10 @@ void F4::Apply() {
   context_.services.MessageBox(name + " " + state().Text(refusal->MessageText), state().Text(refusal->TitleText));
 }
 
-/// The winner's window may lock the main window again, so it is unlocked before the panels are drawn.
-void F4::LeaveAndDraw() {
-  Unlock();
-  core::CalcPoints(state().game, screen());
-  Visible = false;
-}
-
 void F4::F4_cmdSP_Click(int index) {
   state().game.ActionCode = static_cast<std::int16_t>(index);
   Apply();
-  LeaveAndDraw();
+  LeaveAndScore();
 }
 
 void F4::F4_Form_KeyUp(int keyCode) {
@@ -125,7 +117,7 @@ void F4::F4_Form_KeyUp(int keyCode) {
     state().game.ActionCode = static_cast<std::int16_t>(action);
     if (core::ActionOffered(state().game.GameType, action)) Apply();
   }
-  LeaveAndDraw();
+  LeaveAndScore();
 }
 
 }  // namespace dialogs

@@ -24,7 +24,6 @@ class F4 : public windows::Dialog {
 
  private:
   void Apply();
-  void LeaveAndDraw();
   void F4_cmdSP_Click(int index);
   void F4_Form_KeyUp(int keyCode);
 };

@@ -4,7 +4,6 @@
 
 #include "../core/arithmetic.h"
 #include "../core/number_text.h"
-#include "../core/points.h"
 #include "../core/seats.h"
 #include "../storage/code_page.h"
 #include "../windows/form_metrics.h"
@@ -95,8 +94,8 @@ F5::F5(const windows::Context& context)
   txtData(0).Filter = storage::Storable;
   cmdOK.Caption = "OK";
   cmdOK.Default = true;
-  cmdOK.Click = [this] { F5_cmdOK_Click(); };
-  Close = [this] { F5_cmdOK_Click(); };
+  cmdOK.Click = [this] { LeaveAndScore(); };
+  Close = [this] { LeaveAndScore(); };
 }
 
 void F5::SetCaptions() {
@@ -170,12 +169,6 @@ void F5::F5_txtData_KeyUp(int row) {
   }
   if (!core::WholeNumberIn(field.Text.Get())) field.Text = about.Otherwise;
   Player().*about.Number = core::WholeNumberIn(field.Text.Get()).value_or(0);
-}
-
-void F5::F5_cmdOK_Click() {
-  Unlock();
-  core::CalcPoints(state().game, screen());
-  Visible = false;
 }
 
 }  // namespace dialogs

@@ -29,7 +29,6 @@ class F5 : public windows::Dialog {
   void ShowValue(int row);
   void Step(int row, int by);
   void F5_txtData_KeyUp(int row);
-  void F5_cmdOK_Click();
 };
 
 }  // namespace dialogs

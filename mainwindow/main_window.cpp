@@ -17,7 +17,7 @@ using windows::imlW;
 
 MainWindow::MainWindow(platform::Services& services)
     : F1(Desktop, MakeMenu()),
-      context_{State, *this, services, Desktop, F1},
+      context_{State, *this, services, Desktop, lock_},
       F2(context_),
       F3(context_),
       F4(context_),
@@ -78,10 +78,6 @@ void MainWindow::ShowRolledDice() {
     F1.picWurfel(2).Image = imlW.Image(State.entry.EventDie + windows::kBeforeEventFaces);
   }
 }
-
-void MainWindow::UnlockMainWindow() { F1.Enabled = true; }
-
-void MainWindow::CloseDiceDialog() { F7.Visible = false; }
 
 /// The dialog has started a game: dice, theme, clocks, panels and chart are those of the new one.
 void MainWindow::FollowNewGame() {

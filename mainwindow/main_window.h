@@ -40,7 +40,8 @@ class MainWindow : public core::Screen, private storage::GameFileEvents {
   mainwindow::F1 F1;
 
  private:
-  windows::Context context_;  // made before the dialogs, which are made with it
+  windows::Lock lock_{F1};  // with the context made before the dialogs, which are made with it
+  windows::Context context_;
 
  public:
   dialogs::F2 F2;
@@ -62,8 +63,7 @@ class MainWindow : public core::Screen, private storage::GameFileEvents {
   void ShowRolledDice() override;
   void ShowStanding() override { F9.ShowStanding(); }
   void ShowAttack() override { F11.ShowAttack(); }
-  void UnlockMainWindow() override;
-  void CloseDiceDialog() override;
+  void CloseDiceDialog() override { F7.Leave(); }
 
   // One for each menu entry; the tool bar calls the same.
   void F1_mnuGameNew_Click();

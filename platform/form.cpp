@@ -61,6 +61,14 @@ void Form::MoveTo(int left, int top) {
   Position = Place{left, top, place.Width, place.Height};
 }
 
+void Form::Show() {
+  if (Visible) {
+    desktop_.BringToFront(*this);
+  } else {
+    Visible = true;
+  }
+}
+
 bool Form::AcceptsInput() const { return Visible && Enabled && desktop_.Lets(*this); }
 
 void Form::PropertyChanged(Aspect aspect) {

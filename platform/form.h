@@ -59,6 +59,7 @@ class Form : public Container {
   int Width() const { return Position.Get().Width + FrameWidth; }                     ///< outer width, in twips
   int Height() const { return Position.Get().Height + MenuBarHeight + FrameHeight; }  ///< outer height, in twips
   void MoveTo(int left, int top);  ///< twips from the screen's top left
+  void Show();                     ///< in front of the others, even if it is visible already
 
   /// Whether a key or click that comes now is the form's.
   bool AcceptsInput() const;

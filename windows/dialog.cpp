@@ -1,32 +1,32 @@
 #include "dialog.h"
 
+#include "../core/points.h"
+
 namespace windows {
 
-void Dialog::BringUp() {
-  if (Visible) {
-    context_.desktop.BringToFront(*this);
-  } else {
-    Visible = true;
-  }
+void Lock::Take(const platform::Form& dialog) {
+  holders_.insert(&dialog);
+  f1_.Enabled = false;
+}
+
+void Lock::GiveBack(const platform::Form& dialog) {
+  holders_.erase(&dialog);
+  f1_.Enabled = holders_.empty();
 }
 
 void Dialog::Open() {
-  BringUp();
-  locks_ = true;
-  context_.F1.Enabled = false;
-}
-
-void Dialog::Unlock() {
-  locks_ = false;
-  for (platform::Form* form : context_.desktop.Forms()) {
-    const auto* dialog = dynamic_cast<const Dialog*>(form);
-    if (dialog && dialog->locks_ && dialog->Visible) return;
-  }
-  context_.F1.Enabled = true;
+  Show();
+  context_.lock.Take(*this);
 }
 
 void Dialog::Leave() {
-  Unlock();
+  context_.lock.GiveBack(*this);
+  Visible = false;
+}
+
+void Dialog::LeaveAndScore() {
+  context_.lock.GiveBack(*this);
+  core::CalcPoints(state().game, screen());
   Visible = false;
 }
 

@@ -1,7 +1,8 @@
 // What all dialogs share: the lock that they put on the main window. A dialog is modal by hand: opening it shows it and
-// disables the main window, and every way out, the close box included, enables it again and hides the dialog.
+// disables the main window, and every way out, the close box included, hides it and gives the lock back.
 #pragma once
 
+#include <set>
 #include <string>
 
 #include "../core/game_state.h"
@@ -13,15 +14,29 @@
 
 namespace windows {
 
+/// The lock of the main window. It takes input as long as no dialog holds the lock.
+class Lock {
+ public:
+  explicit Lock(platform::Form& f1) : f1_(f1) {}
+
+  void Take(const platform::Form& dialog);
+  void GiveBack(const platform::Form& dialog);
+  bool IsTaken() const { return !holders_.empty(); }
+
+ private:
+  platform::Form& f1_;
+  std::set<const platform::Form*> holders_;
+};
+
 /// What a dialog works on. All of it outlives the dialog.
 struct Context {
   core::State& state;
   core::Screen& screen;
   platform::Services& services;
   platform::Desktop& desktop;
-  platform::Form& F1;  ///< the main window
+  Lock& lock;
 
-  /// Where files stand on this machine.
+  /// Where files are on this machine.
   storage::Places Places() const {
     return {services.ProgramFolder(), services.ConfigurationFolder(), services.DocumentsFolder()};
   }
@@ -34,29 +49,22 @@ class Dialog : public platform::Form {
          platform::CloseBox closeBox = platform::CloseBox::Present)
       : Form(context.desktop, std::move(name), clientWidth, clientHeight, closeBox), context_(context) {}
 
-  /// Takes title and captions from the language that was loaded.
+  /// Takes title and captions from the loaded language.
   virtual void SetCaptions() = 0;
+  /// Gives the lock back and hides the dialog.
+  void Leave();
 
  protected:
-  /// Shows the dialog, or brings it before the others if it is shown already.
-  void BringUp();
-  /// The same, and locks the main window.
+  /// Shows the dialog in front of the others and locks the main window.
   void Open();
-  /// Unlocks the main window and hides the dialog.
-  void Leave();
-  /// Only gives the lock back, for a dialog that has work to do before it hides. The main window stays locked as long
-  /// as another dialog that is open holds it.
-  void Unlock();
-  /// Takes part in a lock that is there already, without making one.
-  void ShareLock() { locks_ = !context_.F1.Enabled; }
+  /// Leaves the dialog, with points and panels worked out anew in between: they may open the winner's window, which
+  /// then holds the lock.
+  void LeaveAndScore();
 
   core::State& state() { return context_.state; }
   core::Screen& screen() { return context_.screen; }
 
   Context context_;
-
- private:
-  bool locks_ = false;
 };
 
 }  // namespace windows

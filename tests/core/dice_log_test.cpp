@@ -26,7 +26,6 @@ class DiceLogTest : public testing::Test, public core::Screen {
   void DrawDiceStats() override { Calls.push_back("chart of " + std::to_string(game.TotalRolls)); }
   void ShowRolledDice() override { Calls.push_back("dice"); }
   void ShowAttack() override { Calls.push_back("attack"); }
-  void UnlockMainWindow() override { Calls.push_back("unlock"); }
   void CloseDiceDialog() override { Calls.push_back("close after " + std::to_string(game.Clock[1]) + " s"); }
   void DrawPlayerPanels() override {}
   void ShowPlayerPanels() override {}
@@ -67,13 +66,16 @@ TEST_F(DiceLogTest, LogHasRoomFor500RollsAndThe501stOnlyShows) {
   Roll({6, 6, 4});
   EXPECT_EQ(game.DiceLog[500], (TRoll{6, 6, 2}));
   EXPECT_EQ(game.DiceCount[12] + game.EventCount[4], 1);
-  EXPECT_THAT(Calls, ElementsAre("dice", "chart of 500", "unlock", "close after 0 s"));
+  EXPECT_THAT(Calls, ElementsAre("dice", "chart of 500", "close after 0 s"));
 }
 
 TEST_F(DiceLogTest, AttackComesAtEverySeventhShip) {
   // Ships before, face, kind of game.
-  const std::tuple<std::int16_t, std::int16_t, std::int16_t, const char*> cases[] = {
-      {6, 4, 3, "attack"}, {13, 4, 3, "attack"}, {-8, 4, 3, "unlock"}, {7, 3, 3, "unlock"}, {6, 4, 2, "unlock"}};
+  const std::tuple<std::int16_t, std::int16_t, std::int16_t, const char*> cases[] = {{6, 4, 3, "attack"},
+                                                                                     {13, 4, 3, "attack"},
+                                                                                     {-8, 4, 3, "close after 0 s"},
+                                                                                     {7, 3, 3, "close after 0 s"},
+                                                                                     {6, 4, 2, "close after 0 s"}};
   state.settings.ShowBarbarians = true;
   for (const auto& [shipsBefore, face, gameType, third] : cases) {
     game = {};
