@@ -33,7 +33,6 @@ class ScriptedServices : public platform::Services {
   std::pair<std::string, platform::Surface> Printed;  ///< printer and page
   bool PrinterFails = false;
   platform::Version Version{1, 0, 0};
-  std::string FirstLanguage = "Deutsch";
   std::string ChosenFile;                 ///< empty: the file dialog is cancelled
   std::set<std::string> MissingPictures;  ///< by name
   std::filesystem::path Folder;           ///< the program's
@@ -48,7 +47,7 @@ class ScriptedServices : public platform::Services {
   }
   void WaitWhileVisible(platform::Form& form) override {
     if (WhileVisible) return WhileVisible(form);
-    form.Type(dynamic_cast<dialogs::F8&>(form).comSelectLang, FirstLanguage);  // the first run
+    form.Pick(dynamic_cast<dialogs::F8&>(form).comSelectLang, 0);  // the first run
     Key(form, platform::kKeyEnter);
   }
   bool ChooseFile(platform::FileDialog& dialog) override {

@@ -8,14 +8,6 @@ namespace tests {
 namespace {
 
 struct HostileGameTest : MainWindowTest {
-  /// Leaves whatever is open, by Enter or the close box.
-  void LeaveAll() {
-    for (platform::Form* form : window.Desktop.Forms()) {
-      if (form == &window.F1) continue;
-      form->PressCloseBox();
-      Key(*form, platform::kKeyEnter);
-    }
-  }
   void EveryKeyAndCommand() {
     for (const mainwindow::Command& command : mainwindow::Commands()) {
       if (command.Run) window.F1.ClickMenu((*window.F1.MenuBar)[command.Menu.Name]);
@@ -37,8 +29,6 @@ struct HostileGameTest : MainWindowTest {
 
 TEST_F(HostileGameTest, AnyNumberAnywhereDoesNoHarm) {
   RandomState random(4711);
-  std::filesystem::copy(services.Folder, Folder, std::filesystem::copy_options::recursive);
-  services.Folder = Folder;
   services.Answers.assign(10'000, platform::Answer::Yes);
   services.ChosenFile = (Folder / "hostile.obg").string();
   for (int i = 0; i < 25; ++i) {

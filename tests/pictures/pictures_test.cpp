@@ -2,30 +2,20 @@
 // was looked at, ORVANBEG_WRITE_PICTURES=1 in the environment writes the files anew.
 #include <cstdlib>
 
-#include "../../core/dice_log.h"
-#include "../../core/points.h"
-#include "../../mainwindow/main_window.h"
 #include "../../printing/game_report.h"
-#include "../keyboard.h"
-#include "../numbered_program.h"
-#include "../scripted_services.h"
-#include "../storage/temporary_folder.h"
+#include "../main_window_fixture.h"
 #include "described.h"
 
 namespace tests {
 namespace {
 
-constexpr platform::Modifiers kCtrl{.Control = true}, kShift{.Shift = true};
-
-class Pictures : public TemporaryFolder {
+class Pictures : public MainWindowTest {
  protected:
   Pictures() {
-    services.FirstLanguage = kNumbers;
     services.Version = {3, 1, 302};
     window.F1.FrameWidth = 90;
     window.F1.FrameHeight = 345;
     window.F1.MenuBarHeight = 300;
-    EXPECT_EQ(window.Load(), mainwindow::Started::Yes);
   }
   /// A game of five in which each holding, each title and each figure differs from the others.
   void PlayExpansion() {
@@ -35,9 +25,9 @@ class Pictures : public TemporaryFolder {
     game.GameTitle = "Abend";
     game.GameInfo = "Runde 2";
     const core::TPlayer players[] = {{"Ada", 1, 3, true, false, false, false, false, 0, false, true},
-                                     {"Ben", 5, 2, false, false, true, true, false, 3, false, true},
+                                     {"Ben", 4, 3, false, false, true, true, false, 3, false, true},
                                      {"Zoë", 0, 0, false, false, false, false, false, 1, false, true},
-                                     {"Dan", 2, 1, false, false, false, false, true, 0, false, true},
+                                     {"Dan", 6, 1, false, false, false, false, true, 0, false, true},
                                      {"Eve", 4, 0, false, true, false, false, false, 9, true, true},
                                      {"Fay", 3, 4, false, false, false, false, false, 0, false, false}};
     std::copy(std::begin(players), std::end(players), game.Players.begin() + 1);
@@ -54,17 +44,21 @@ class Pictures : public TemporaryFolder {
     core::CalcPoints(game, window);
   }
   void Roll(const core::TRoll& roll) {
-    state.entry = {roll.Die1, roll.Die2, roll.EventDie, 2};
-    core::RecordRoll(state, window);
+    entry = {roll.Die1, roll.Die2, roll.EventDie, 2};
+    core::RecordRoll(window.State, window);
   }
-  void RollSeven() {
-    for (const core::TRoll& roll : std::initializer_list<core::TRoll>{
-             {1, 1, 4}, {6, 6, 1}, {3, 4, 4}, {2, 6, 2}, {5, 3, 3}, {1, 6, 4}, {4, 5, 1}})
+  void RollTenTimes() {
+    for (const core::TRoll& roll : std::initializer_list<core::TRoll>{{1, 1, 4},
+                                                                      {6, 6, 1},
+                                                                      {3, 4, 4},
+                                                                      {2, 3, 4},
+                                                                      {3, 1, 4},
+                                                                      {2, 6, 2},
+                                                                      {5, 3, 3},
+                                                                      {1, 6, 4},
+                                                                      {4, 5, 1},
+                                                                      {6, 5, 0}})
       Roll(roll);
-  }
-  void Press(platform::KeyCode code, platform::Modifiers with = {}) { Key(window.F1, code, with); }
-  void Type(platform::Form& form, const std::string& keys) {
-    for (const char key : keys) Key(form, static_cast<unsigned char>(key));
   }
 
   /// Compares with the file of this name.
@@ -73,21 +67,19 @@ class Pictures : public TemporaryFolder {
     if (std::getenv("ORVANBEG_WRITE_PICTURES")) Put(path, lines);
     EXPECT_EQ(lines, Bytes(path)) << path;
   }
-
-  ScriptedServices services{MakeNumberedProgram(Folder)};
-  mainwindow::MainWindow window{services};
-  core::State& state = window.State;
-  core::Game& game = state.game;
 };
 
 TEST_F(Pictures, MainWindow) {
   window.F1.timSpielzeit.Elapsed();
   Expect("start", Described(window.F1));
   PlayExpansion();
-  state.settings.Contrast = core::kOff;
-  RollSeven();
+  settings.Contrast = core::kOff;
+  RollTenTimes();
   window.F1.timSpielzeit.Elapsed();
   Expect("evening", Described(window.F1));
+  game.GameType = core::kBaseGame;
+  core::UndoLastRoll(window.State, window);
+  Expect("base_game_chart", Drawing(window.F1.picW.Drawing) + Drawing(window.F1.picInfoLine.Drawing));
 }
 
 TEST_F(Pictures, Action) {
@@ -112,16 +104,26 @@ TEST_F(Pictures, PlayerData) {
 
 TEST_F(Pictures, GameInfo) {
   PlayExpansion();
-  game.OptFlottillen = game.OptScenario = core::kOn;
+  game.OptFlottillen = core::kOn;
+  game.OptScenario = core::CheckValue(-1);
   Press('I', kCtrl);
-  Expect("game_info", Described(window.F6));
+  std::string lines = Described(window.F6);
+  Click(window.F6.cmdOK);
+  PlayBaseGame();
+  game.NumPlayers = 4;
+  game.OptFlottillen = game.OptScenario = core::kOff;
+  Press('I', kCtrl);
+  Expect("game_info", lines + Described(window.F6));
 }
 
 TEST_F(Pictures, DiceEntry) {
   PlayExpansion();
-  Type(window.F1, "4");
-  Type(window.F7, "3");
-  Expect("dice_entry", Described(window.F7));
+  Type("43");
+  std::string lines = Described(window.F7);
+  Press(platform::kKeyEscape);
+  PlayBaseGame();
+  Click(window.F1.picWurfel(0));
+  Expect("dice_entry", lines + Described(window.F7));
 }
 
 TEST_F(Pictures, Settings) {
@@ -145,14 +147,14 @@ TEST_F(Pictures, Standing) {
   game.WinPoints = 12;
   core::CalcPoints(game, window);
   std::string lines = Described(window.F9);
-  Click(window.F9.optWinOrder(1));
-  lines += Described(window.F9);
+  Click(window.F9.optWinOrder(0));
+  lines += Drawing(window.F9.picRanking.Drawing);
   Click(window.F9.cmdOK);
   PlayExpansion();
   Press('T', kCtrl);
   lines += Described(window.F9);
-  Click(window.F9.optWinOrder(0));
-  Expect("standing", lines + Described(window.F9));
+  Click(window.F9.optWinOrder(1));
+  Expect("standing", lines + Drawing(window.F9.picRanking.Drawing));
 }
 
 TEST_F(Pictures, Print) {
@@ -165,7 +167,10 @@ TEST_F(Pictures, Attack) {
   PlayExpansion();
   game.EventCount[4] = 6;
   Roll({1, 2, 4});
-  Expect("attack", Described(window.F11));
+  std::string lines = Described(window.F11);
+  game.Players[5].Cities = 3;
+  window.F11.ShowAttack();
+  Expect("attack", lines + Drawing(window.F11.picShowPlayers.Drawing));
 }
 
 TEST_F(Pictures, NewGame) {
@@ -187,13 +192,13 @@ TEST_F(Pictures, Help) {
 
 TEST_F(Pictures, Page) {
   PlayExpansion();
-  RollSeven();
+  RollTenTimes();
   platform::Surface page;
-  printing::DrawGameReport(state, ",", page);
+  printing::DrawGameReport(window.State, ",", page);
   std::string lines = Drawing(page);
   PlayBaseGame();
-  core::UndoLastRoll(state, window);
-  printing::DrawGameReport(state, ".", page);
+  core::UndoLastRoll(window.State, window);
+  printing::DrawGameReport(window.State, ".", page);
   Expect("page", lines + "In the base game:\n" + Drawing(page));
 }
 

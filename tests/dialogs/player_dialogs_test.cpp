@@ -1,0 +1,166 @@
+// What a player has done, reported by a key or a click, and a record corrected by hand.
+#include "../../core/player_actions.h"
+#include "../main_window_fixture.h"
+
+namespace tests {
+namespace {
+
+struct PlayerActionTest : MainWindowTest {
+  dialogs::F4& F4 = window.F4;
+
+  /// Opens the dialog for seat 2, who holds these pieces.
+  void OpenFor(std::int16_t gameType, std::int16_t settlements = 2, std::int16_t cities = 1) {
+    game.GameType = gameType;
+    game.Players[2] = {.Name = "Ben", .Settlements = settlements, .Cities = cities, .Active = true};
+    core::CalcPoints(game, window);
+    Press(platform::FunctionKey(2));
+    ASSERT_TRUE(Locking(F4));
+  }
+  void Report(int action, bool byKey) { byKey ? Press('0' + action % 10) : Click(F4.cmdSP(action)); }
+};
+
+TEST_F(PlayerActionTest, EachKeyAndButtonReportsItsActionWhereTheKindOfGameOffersIt) {
+  for (const std::int16_t gameType : {core::kBaseGame, core::kFirstExpansion}) {
+    for (int action = 1; action <= 10; ++action) {
+      for (const bool byKey : {true, false}) {
+        OpenFor(gameType);
+        core::Game expected = game;
+        expected.ActionCode = static_cast<std::int16_t>(action);
+        const bool offered = core::ActionOffered(gameType, action);
+        if (offered) core::ApplyPlayerAction(expected);
+        core::ComputePoints(expected);
+        Report(action, byKey);
+        EXPECT_EQ(game.Players, expected.Players) << action << " in a game of kind " << gameType;
+        EXPECT_EQ(game.PlayerPoints, expected.PlayerPoints);
+        EXPECT_EQ(Closed(F4), byKey || offered) << "a disabled button takes no click";
+        LeaveAll();
+      }
+    }
+  }
+}
+
+TEST_F(PlayerActionTest, EveryOtherKeyClosesWithoutActionAndLeavingLetsThePointsBe) {
+  const std::tuple<const char*, Act, bool> cases[] = {
+      {"Tab", [&] { Press(platform::kKeyTab); }, true},
+      {"Space on a button", [&] { F4.SetFocus(F4.cmdSP(1)), Press(platform::kKeySpace); }, true},
+      {"number pad", [&] { Press(platform::kKeyNumberPad0 + 1); }, true},
+      {"Esc", [&] { Press(platform::kKeyEscape); }, false},
+      {"close box", [&] { F4.PressCloseBox(); }, false}};
+  for (const auto& [what, act, recalculates] : cases) {
+    OpenFor(core::kBaseGame);
+    game.PlayerPoints[2] = 50;
+    act();
+    EXPECT_TRUE(Closed(F4) && game.Players[2].Settlements == 2) << what;
+    EXPECT_EQ(game.PlayerPoints[2], recalculates ? 4 : 50) << what;
+  }
+}
+
+TEST_F(PlayerActionTest, ARefusalIsToldAndAWinLocksTheMainWindowAgain) {
+  for (const bool byKey : {true, false}) {
+    OpenFor(core::kFirstExpansion, 1, 4);
+    Report(2, byKey);
+    EXPECT_EQ(services.Boxes.back(),
+              (ScriptedServices::Box{"Ben T59", "T60", platform::Buttons::Ok, platform::Icon::None}));
+    EXPECT_TRUE(Closed(F4));
+    OpenFor(core::kBaseGame);
+    game.WinPoints = 5;
+    Report(1, byKey);
+    EXPECT_TRUE(!F4.Visible && Locking(window.F9));
+    Click(window.F9.cmdOK);
+    game.WinPoints = 10;
+  }
+}
+
+struct PlayerDataTest : MainWindowTest {
+  dialogs::F5& F5 = window.F5;
+  core::TPlayer& ada = game.Players[1];
+
+  PlayerDataTest() { ada.Name = "Ada"; }
+  void Open() {
+    Press(platform::FunctionKey(1), kShift);
+    EXPECT_EQ(F5.Focus(), &F5.txtData(0)) << "wherever it was when the dialog was left";
+  }
+  /// What a row shows and what the record holds.
+  std::string InRow(int row) {
+    const int number = row == 1 ? ada.Settlements : row == 2 ? ada.Cities : ada.BonusPoints;
+    return F5.txtData(row).Text.Get() + " " + std::to_string(number);
+  }
+  /// Types into a field and lets a key go there that moves nothing.
+  void Enter(int row, const std::string& text) {
+    F5.SetFocus(F5.txtData(row));
+    F5.Type(F5.txtData(row), text);
+    Key(F5, platform::kKeyRight);
+  }
+};
+
+TEST_F(PlayerDataTest, NumbersAreTakenAsTheyAreTyped) {
+  Open();
+  const std::tuple<int, const char*, const char*> rows[] = {
+      {1, "7", "7 7"}, {1, "", "2 2"},     {1, "40000", "2 2"}, {2, "3.5", "3.5 4"},
+      {2, "x", "0 0"}, {2, "-3", "-3 -3"}, {8, "99", "99 99"},  {8, "-32769", "0 0"}};
+  for (const auto& [row, typed, holds] : rows) {
+    Enter(row, typed);
+    EXPECT_EQ(InRow(row), holds) << typed;
+  }
+  Enter(0, "Zoë ");
+  EXPECT_EQ(ada.Name, "Zoë ");
+}
+
+TEST_F(PlayerDataTest, ButtonsStepToTheirBoundAndBringTypedNumbersBackOnlyOnTheirOwnSide) {
+  Open();
+  const std::tuple<int, const char*, char, const char*> rows[] = {
+      {1, "4", '+', "5 5"},    {1, "5", '+', "5 5"},   {1, "9", '+', "5 5"},    {1, "9", '-', "8 8"},
+      {1, "0", '-', "0 0"},    {1, "-3", '-', "0 0"},  {1, "-3", '+', "-2 -2"}, {2, "4", '+', "4 4"},
+      {8, "98", '+', "99 99"}, {8, "99", '+', "99 99"}};
+  for (const auto& [row, typed, button, holds] : rows) {
+    Enter(row, typed);
+    Click(button == '+' ? F5.cmdPlus(row - 1) : F5.cmdMinus(row - 1));
+    EXPECT_EQ(InRow(row), holds) << typed << ", " << button;
+  }
+}
+
+TEST_F(PlayerDataTest, AFlagTurnsOverAtAnyKeyAndAtBothButtonsForThisPlayerAlone) {
+  const std::tuple<int, bool core::TPlayer::*, std::int16_t> flags[] = {
+      {3, &core::TPlayer::LongestRoad, 2},        {4, &core::TPlayer::LargestArmy, 2},
+      {5, &core::TPlayer::PoliticsMetropolis, 3}, {6, &core::TPlayer::TradeMetropolis, 3},
+      {7, &core::TPlayer::ScienceMetropolis, 3},  {9, &core::TPlayer::Merchant, 3}};
+  game.WinPoints = 30;
+  for (const auto& [row, flag, gameType] : flags) {
+    game.GameType = gameType;
+    game.Players[2].*flag = true;
+    Open();
+    core::TPlayer expected = ada;
+    Enter(row, "ignored");
+    expected.*flag = true;
+    EXPECT_EQ(ada, expected) << row;
+    EXPECT_EQ(F5.txtData(row).Text.Get(), "T64");
+    for (platform::Control* button : {&F5.cmdPlus(row - 1), &F5.cmdMinus(row - 1), &F5.cmdMinus(row - 1)}) {
+      Click(*button);
+    }
+    expected.*flag = false;
+    EXPECT_EQ(ada, expected) << row;
+    EXPECT_EQ(F5.txtData(row).Text.Get(), "T65");
+    EXPECT_TRUE(game.Players[2].*flag);
+    Click(F5.cmdOK);
+  }
+}
+
+TEST_F(PlayerDataTest, TabTurnsEachFlagOnWhichItLands) {
+  Open();
+  for (int i = 0; i < 5; ++i) Key(F5, platform::kKeyTab);
+  EXPECT_EQ(F5.Focus(), &F5.txtData(8)) << "the rows between are hidden";
+  EXPECT_TRUE(ada.LongestRoad && ada.LargestArmy);
+  Key(F5, platform::kKeyTab, kShift);
+  EXPECT_TRUE(ada.LongestRoad && !ada.LargestArmy);
+}
+
+TEST_F(PlayerDataTest, LeavingCountsThePoints) {
+  Open();
+  Enter(8, "10");
+  EXPECT_EQ(game.PlayerPoints[1], 2);
+  Click(F5.cmdOK);
+  EXPECT_TRUE(!F5.Visible && Locking(window.F9)) << "the points to win are reached";
+}
+
+}  // namespace
+}  // namespace tests

@@ -1,0 +1,156 @@
+// Commands from the menu, its shortcuts and the tool bar; keys and clicks of the main window; the lock of the dialogs.
+#include "../main_window_fixture.h"
+
+namespace tests {
+namespace {
+
+using platform::Answer;
+using platform::FunctionKey;
+using platform::MouseButton;
+
+struct CommandsTest : MainWindowTest {
+  CommandsTest() { Put(Folder / "tastatur.txt", "keys"); }
+  /// What has happened since it was asked last: dialogs, boxes and file dialogs that were shown, and rolls. Leaves all.
+  std::string Happened() {
+    std::string happened;
+    for (const platform::Form* form : window.Desktop.Forms()) happened += form->Visible ? form->Name + " " : "";
+    for (const ScriptedServices::Box& box : services.Boxes) happened += box.Text + " ";
+    for (const platform::FileDialog& dialog : services.FileDialogs) happened += dialog.DialogTitle + " ";
+    services.Boxes.clear();
+    services.FileDialogs.clear();
+    LeaveAll();
+    return happened;
+  }
+};
+
+TEST_F(CommandsTest, MenuShortcutAndToolBarDoTheSame) {
+  const platform::KeyCode backspace = platform::kKeyBackspace;
+  const std::tuple<const char*, platform::KeyCode, platform::Modifiers, int, std::string> commands[] = {
+      {"mnuGameNew", 'N', kCtrl, 1, "F20 "},
+      {"mnuFileLoad", 'F', kCtrl, 2, "T3 "},
+      {"mnuFileSaveAs", 'S', kCtrl, 3, "T4 "},
+      {"mnuGameInfo", 'I', kCtrl, 4, "F6 "},
+      {"mnuFilePrint", 'P', kCtrl, 5, "F10 "},
+      {"mnuFileQuit", 'Q', kCtrl, 6, "T101 "},
+      {"mnuExtraZS", 'T', kCtrl, 7, "F9 "},
+      {"mnuSpecialLHS", 'H', kCtrl, 8, "T107 "},
+      {"mnuExtraDelLastW", backspace, kAlt, 9, "T106 "},
+      {"mnuExtraSettings", FunctionKey(8), {}, 10, "F8 "},
+      {"mnuHelpKeys", FunctionKey(11), {}, 12, "F2 "},
+      {"mnuHelpInfo", FunctionKey(12), {}, 13, "F3 "}};
+  for (const auto& [name, key, with, tool, happens] : commands) {
+    Choose(name);
+    EXPECT_EQ(Happened(), "F1 " + happens) << name;
+    Press(key, with);
+    EXPECT_EQ(Happened(), "F1 " + happens) << name;
+    window.F1.ClickTool(window.F1.tbrMenu, tool);
+    EXPECT_EQ(Happened(), tool == 6 ? "F1 " : "F1 " + happens) << "button " << tool;
+  }
+  for (const int noButton : {-1, 0, 11, 14}) window.F1.ClickTool(window.F1.tbrMenu, noButton);
+  EXPECT_EQ(Happened(), "F1 ");
+}
+
+TEST_F(CommandsTest, UndoWantsAYes) {
+  Type("34\r");
+  services.Answers = {Answer::No, Answer::Yes};
+  for (const int left : {1, 0}) {
+    Choose("mnuExtraDelLastW");
+    EXPECT_EQ(Rolls(), left);
+  }
+  EXPECT_EQ(services.Boxes.back().Buttons, platform::Buttons::YesNo);
+  EXPECT_EQ(Numbers(window.F1.picWurfel), "09 04 19") << "the dice go on showing the roll";
+}
+
+TEST_F(CommandsTest, TheClockStopsAndGoesOn) {
+  for (const bool runs : {true, false}) {
+    Press(FunctionKey(7));
+    window.F1.timSpielzeit.Elapsed();
+    EXPECT_TRUE(game.ClockRunning == runs && services.ScreenAwake == runs && game.Clock[0] == 1);
+    EXPECT_EQ(Caption("mnuExtraClock"), runs ? "&T111" : "&T112");
+  }
+}
+
+TEST_F(CommandsTest, TheLongestRoadIsTakenFromItsHolder) {
+  game.Players[2].LongestRoad = game.Players[2].LargestArmy = true;
+  Choose("mnuSpecialLHS");
+  EXPECT_TRUE(!game.Players[2].LongestRoad && game.PlayerPoints[2] == 4);
+}
+
+TEST_F(CommandsTest, KeysWithAndWithoutModifiers) {
+  // Key, current player, player of the data dialog, black die, whether the points are brought into two digits.
+  const std::tuple<platform::KeyCode, platform::Modifiers, int, int, int, bool> cases[] = {
+      {FunctionKey(1), {}, 1, 0, 0, true},
+      {FunctionKey(2), {}, 2, 0, 0, true},
+      {FunctionKey(3), {}, 3, 0, 0, false},
+      {FunctionKey(4), {}, 4, 0, 0, true},
+      {FunctionKey(1), kShift, 0, 1, 0, false},
+      {FunctionKey(6), kCtrl, 0, 6, 0, false},
+      {FunctionKey(10), {}, 0, 0, 0, true},
+      {'1', {}, 0, 0, 1, true},
+      {'6', {}, 0, 0, 6, true},
+      {'7', {}, 0, 0, 0, true},
+      {'3', kShift, 0, 0, 0, false},
+      {platform::kKeyNumberPad0 + 3, {}, 0, 0, 0, true}};
+  for (const auto& [key, with, current, data, die, clamps] : cases) {
+    for (const int seat : {2, 3}) game.Players[seat].Active = false;
+    game.CurrentPlayer = game.DataPlayer = entry.Die1 = 0;
+    game.PlayerPoints[1] = -1;
+    game.PlayerPoints[5] = 32767;
+    Press(key, with);
+    EXPECT_EQ(std::tuple(game.CurrentPlayer, game.DataPlayer, entry.Die1, window.F7.Visible.Get()),
+              std::tuple(current, data, die, die > 0))
+        << key;
+    EXPECT_EQ(game.PlayerPoints[1], clamps ? 0 : -1) << key;
+    EXPECT_EQ(game.PlayerPoints[5], clamps ? 99 : 32767) << key;
+    LeaveAll();
+  }
+}
+
+TEST_F(CommandsTest, MouseOnDiceAndPanelsAndTheCloseBox) {
+  mainwindow::F1& F1 = window.F1;
+  Click(F1.picWurfel(1), MouseButton::Middle);
+  Click(F1.picWurfel(2), MouseButton::Right);  // hidden in the base game
+  EXPECT_TRUE(!window.F7.Visible && Rolls() == 0);
+  PlayExpansion();
+  services.RandomNumbers = {0.5, 0.9, 0.7, 0.5, 0.9, 0.7};
+  Click(F1.picWurfel(2), MouseButton::Right);
+  EXPECT_EQ(game.DiceLog[1], (core::TRoll{4, 6, 3}));
+  EXPECT_EQ(Numbers(F1.picWurfel), "10 06 15");
+  Press(FunctionKey(9));
+  EXPECT_EQ(game.DiceLog[2], (core::TRoll{4, 6, 4}));
+  Click(F1.picSP(3), MouseButton::Middle);
+  EXPECT_EQ(game.CurrentPlayer, 4);
+  Click(window.F4.cmdNix);
+  Click(F1.picSP(2), MouseButton::Right);
+  EXPECT_EQ(game.DataPlayer, 3);
+  LeaveAll();
+  F1.PressCloseBox();
+  EXPECT_TRUE(services.QuitStatus == 0 && services.Boxes.empty()) << "it ends at once without a question";
+}
+
+TEST_F(CommandsTest, EveryDialogLocksAndEveryWayOutUnlocks) {
+  const Act attack = [&] { game.EventCount[4] = 6, game.GameType = core::kFirstExpansion, Type("43B"); };
+  const std::tuple<platform::Form*, Act, platform::Control*, platform::KeyCode> dialogs[] = {
+      {&window.F4, [&] { Press(FunctionKey(2)); }, &window.F4.cmdNix, platform::kKeyEscape},
+      {&window.F5, [&] { Press(FunctionKey(6), kAlt); }, &window.F5.cmdOK, platform::kKeyEnter},
+      {&window.F6, [&] { Press('I', kCtrl); }, &window.F6.cmdOK, platform::kKeyEnter},
+      {&window.F7, [&] { Type("43"); }, &window.F7.cmdNoOK, platform::kKeyEscape},
+      {&window.F9, [&] { Press('T', kCtrl); }, &window.F9.cmdOK, platform::kKeyEnter},
+      {&window.F10, [&] { Press('P', kCtrl); }, &window.F10.cmdPrintCancel, platform::kKeyEscape},
+      {&window.F11, attack, &window.F11.cmdOK, platform::kKeyEnter},
+      {&window.F20, [&] { Press('N', kCtrl); }, &window.F20.cmdCancel, platform::kKeyEscape}};
+  for (const auto& [dialog, open, button, key] : dialogs) {
+    for (int way = 0; way < 3; ++way) {
+      open();
+      EXPECT_TRUE(Locking(*dialog)) << dialog->Name;
+      Click(window.F1.picWurfel(0), MouseButton::Right);  // the main window takes nothing
+      window.F1.PressCloseBox();
+      way == 0 ? Click(*button) : way == 1 ? Key(*dialog, key) : dialog->PressCloseBox();
+      EXPECT_TRUE(Closed(*dialog)) << dialog->Name << ", way " << way;
+    }
+  }
+  EXPECT_TRUE(Rolls() == 3 && services.QuitStatus == -1) << "only the attacks come with a roll";
+}
+
+}  // namespace
+}  // namespace tests
