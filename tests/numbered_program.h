@@ -6,6 +6,8 @@
 #include <fstream>
 #include <string>
 
+#include "folders.h"
+
 namespace tests {
 
 inline constexpr const char* kNumbers = "Numbers";  ///< the language of the file
@@ -20,7 +22,7 @@ inline std::filesystem::path MakeNumberedProgram(const std::filesystem::path& fo
   std::ofstream file(folder / "language.ini", std::ios::binary);
   file << "#LANGUAGE\r\n" << kNumbers << "\r\n";
   for (int text = 1; text <= 118; ++text) file << Numbered(text) << "\r\n";
-  std::filesystem::create_directory_symlink(std::filesystem::path(ORVANBEG_RUN_FOLDER) / "img", folder / "img");
+  std::filesystem::create_directory_symlink(RunFolder() / "img", folder / "img");
   return folder;
 }
 

@@ -9,13 +9,14 @@
 
 #include "../dialogs/f8_settings.h"
 #include "../platform/services.h"
+#include "folders.h"
 #include "keyboard.h"
 
 namespace tests {
 
 class ScriptedServices : public platform::Services {
  public:
-  explicit ScriptedServices(std::filesystem::path folder = ORVANBEG_RUN_FOLDER) : Folder(std::move(folder)) {}
+  explicit ScriptedServices(std::filesystem::path folder = RunFolder()) : Folder(std::move(folder)) {}
 
   struct Box {
     std::string Text, Title;

@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "../../printing/game_report.h"
+#include "../folders.h"
 #include "../main_window_fixture.h"
 #include "described.h"
 
@@ -63,7 +64,7 @@ class Pictures : public MainWindowTest {
 
   /// Compares with the file of this name.
   static void Expect(const std::string& name, const std::string& lines) {
-    const std::filesystem::path path = std::filesystem::path(ORVANBEG_PICTURES) / (name + ".txt");
+    const std::filesystem::path path = PicturesFolder() / (name + ".txt");
     if (std::getenv("ORVANBEG_WRITE_PICTURES")) Put(path, lines);
     EXPECT_EQ(lines, Bytes(path)) << path;
   }

@@ -34,7 +34,7 @@ class Memory : public tests::RealWindows {
  protected:
   Memory() {
     const std::filesystem::path folder = folder_.path().toStdString();
-    std::filesystem::copy(ORVANBEG_RUN_FOLDER, folder, std::filesystem::copy_options::recursive);
+    std::filesystem::copy(tests::RunFolder(), folder, std::filesystem::copy_options::recursive);
     Services.Folder = folder;
     Services.ChosenFile = folder / "game.obg";
   }
@@ -91,7 +91,7 @@ TEST_F(Memory, DoesNotGrowWithBoxesAndFileDialogs) {
     services.MessageBox("Wirklich?", "", platform::Buttons::YesNo, platform::Icon::Critical);
     closeSoon();
     platform::FileDialog dialog;
-    dialog.InitDir = ORVANBEG_RUN_FOLDER;
+    dialog.InitDir = tests::RunFolder().string();
     services.ChooseFile(dialog);
     Show();
   });

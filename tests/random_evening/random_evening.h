@@ -51,7 +51,7 @@ class RandomEvening : public TemporaryFolder, public testing::WithParamInterface
  protected:
   RandomEvening() {
     chance.Generator.seed(GetParam());
-    std::filesystem::copy(ORVANBEG_RUN_FOLDER, Folder);
+    std::filesystem::copy(RunFolder(), Folder);
     chance.Folder = Folder;
     chance.WhileABoxIsOpen = [this] { window.F1.timSpielzeit.Elapsed(); };
   }

@@ -8,6 +8,8 @@
 #include <span>
 #include <sstream>
 
+#include "../folders.h"
+
 namespace tests {
 namespace {
 
@@ -57,7 +59,7 @@ TEST(LanguageFileTest, FindsBlocksAndTheirTexts) {
   for (const auto& [what, bytes, found] : cases) EXPECT_EQ(Read(bytes), found) << what;
 }
 
-std::ifstream Shipped() { return std::ifstream(ORVANBEG_RUN_FOLDER "/language.ini", std::ios::binary); }
+std::ifstream Shipped() { return std::ifstream(RunFolder() / "language.ini", std::ios::binary); }
 
 TEST(LanguageIniTest, HasBlocksOf118Texts) {
   auto file = Shipped();
