@@ -5,11 +5,13 @@ Usage: demo.py PROGRAM FOLDER    FOLDER takes the screenshots, evening.obg and e
 import pathlib
 import shutil
 import sys
+import time
 
-from steps import act, ask_for_page, begin_game, roll, save
-from virtual_screen import Program, Screen, end_by_itself
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "tests" / "evening"))
+from driver import Program, XScreen, end_by_itself  # noqa: E402
 
-TIME_LIMIT = 120  # seconds
+TIME_LIMIT = 300  # seconds
+SETTLED = 0.5  # seconds after which a window has been painted
 NAMES = ["Mathilda", "Jonas", "Ingrid", "Pavel"]
 POINTS_LESS = 2  # so that a short evening has a winner
 
@@ -24,63 +26,53 @@ WINS = ("2", "1")  # a seat and the action that brings the last point it needs
 def play_turns(program, turns):
     for turn in turns:
         if "+" in turn:
-            act(program, turn[0], turn[2])
-            program.wait_for_main_alone()
+            program.act(turn[0], turn[2])
+            program.wait_for_main()
         else:
-            roll(program, *turn)
+            program.roll(*turn)
 
 
 def play(program):
     """Stops at each moment that is worth a picture, with its name and the window."""
-    keys = program.screen.keys
-    yield "new-game", begin_game(program, NAMES, expansion=True, points_less=POINTS_LESS)
-    keys("Return")
-    program.wait_for_main_alone()
+    yield "new-game", program.begin_game(NAMES, expansion=True, points_less=POINTS_LESS)
+    program.answer("Return")
     play_turns(program, EVENING)
     yield "main-window", program.main
 
-    keys(ATTACK[0])
-    dialog = program.wait_for_dialog()
-    keys(ATTACK[1])
+    program.keys(ATTACK[0])
+    dialog = program.dialog()
+    program.keys(ATTACK[1])
     yield "dice-dialog", dialog
-    keys(ATTACK[2])
-    yield "barbarians", program.wait_for_title("Barbarian attack!")
-    keys("Return")
-    program.wait_for_main_alone()
+    program.keys(ATTACK[2])
+    yield "barbarians", program.dialog("Barbarian attack!")
+    program.answer("Return")
 
-    keys("F3")
-    yield "action-dialog", program.wait_for_dialog()
-    keys("0")
-    program.wait_for_main_alone()
-    program.screen.chord("ctrl", "t")
-    yield "standing", program.wait_for_dialog()
-    keys("Return")
-    program.wait_for_main_alone()
-    keys("F8")
-    yield "settings", program.wait_for_dialog()
-    keys("Return")
-    program.wait_for_main_alone()
-    save(program, program.folder / "evening.obg")
-    ask_for_page(program, program.folder / "evening.pdf")
-    program.wait_for_main_alone()
+    for name, opens, closes in (("action-dialog", "F3", "0"), ("standing", "ctrl+t", "Return"),
+                                ("settings", "F8", "Return")):
+        program.keys(opens)
+        yield name, program.dialog()
+        program.answer(closes)
+    program.save(program.folder / "evening.obg")
+    program.print_report(program.folder / "evening.pdf")
 
     play_turns(program, AFTER.split())
-    act(program, *WINS)
-    yield "winner", program.wait_for_title("Standings")
-    keys("Return")
-    program.wait_for_main_alone()
+    program.act(*WINS)
+    yield "winner", program.dialog("Standings")
+    program.answer("Return")
 
 
 def main():
     if len(sys.argv) != 3:
         raise SystemExit(__doc__)
     executable, folder = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
+    folder.mkdir(parents=True, exist_ok=True)
     end_by_itself(TIME_LIMIT)
-    with Screen() as screen:
+    with XScreen() as screen:
         program = Program(screen, executable)
         program.start()
         for name, window in play(program):
-            program.save_when_calm(folder / f"{name}.png", window)
+            time.sleep(SETTLED)
+            screen.picture(folder / f"{name}.png", window, "-frame")
             print(folder / f"{name}.png")
         for name in ("evening.obg", "evening.pdf"):
             print(shutil.copy(program.folder / name, folder))
