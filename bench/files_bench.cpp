@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "../core/defaults.h"
+#include "../core/new_game.h"
 #include "../storage/game_file.h"
 #include "../storage/game_file_reader.h"
 #include "../storage/regular_file.h"

@@ -2,7 +2,7 @@
 // number of rolls that the game has seen.
 #include <benchmark/benchmark.h>
 
-#include "../core/dice_log.h"
+#include "../core/rolls.h"
 #include "../mainwindow/main_window.h"
 #include "../tests/scripted_services.h"
 #include "games.h"

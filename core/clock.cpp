@@ -2,9 +2,7 @@
 
 #include <algorithm>
 
-#include "arithmetic.h"
-#include "points.h"
-#include "seats.h"
+#include "numbers.h"
 
 namespace core {
 namespace {
@@ -27,16 +25,6 @@ std::string ClockText(int seconds) {
   const int minutes = shown % kSecondsPerHour / kSecondsPerMinute;
   return (hours == 0 ? "" : std::to_string(hours) + ":") + TwoDigits(minutes) + ":" +
          TwoDigits(shown % kSecondsPerMinute);
-}
-
-BoardTotals CountBoard(const Game& game) {
-  BoardTotals totals;
-  for (const TPlayer& player : PlayersAtTheTable(game)) {
-    totals.Settlements += player.Settlements;
-    totals.Cities += player.Cities;
-    totals.Metropolises += MetropolisCount(player);
-  }
-  return totals;
 }
 
 }  // namespace core

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "arithmetic.h"
-#include "dice_log.h"
+#include "numbers.h"
+#include "rolls.h"
 
 namespace core {
 namespace {

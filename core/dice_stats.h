@@ -6,6 +6,10 @@
 
 namespace core {
 
+/// Theoretical share of each sum in percent, with one decimal, as the figures show it.
+inline constexpr Numbered<float, kHighestSum + 1> DiceProbability{0,     0,     2.8F,  5.6F, 8.3F, 11.1F, 13.9F,
+                                                                  16.7F, 13.9F, 11.1F, 8.3F, 5.6F, 2.8F};
+
 /// Share of a sum (2 to 12) in percent for marker and comparison. Truncated where `DiceProbability` is rounded.
 double TheoryShare(int sum);
 

@@ -1,13 +1,15 @@
 // The one game in memory, the settings, the roll being entered and the language: plain records, grouped by how long
-// they live. Every rule and every drawing starts from them; nothing tells anybody of a change. Numbers are 16 bits and
+// they live. Every rule and every drawing starts from them; nothing is notified of a change. Numbers are 16 bits and
 // signed; a game file may bring any such number, so whoever uses one as an index checks it.
 #pragma once
 
+#include <algorithm>
+#include <array>
+#include <concepts>
 #include <cstdint>
+#include <span>
 #include <string>
 
-#include "flags.h"
-#include "numbered.h"
 #include "texts.h"
 
 namespace core {
@@ -29,6 +31,37 @@ inline constexpr std::int16_t kFirstExpansion = 3;
 
 /// What `Languages[0]` holds as long as no language was chosen.
 inline constexpr const char* kNoLanguageYet = "Select";
+
+/// An array whose elements bear numbers of the game: seats, sums of two dice, faces, entries of the log. Any integer is
+/// an index.
+template <typename Element, std::size_t Size>
+struct Numbered : std::array<Element, Size> {
+  /// Throws std::out_of_range where there is no such element.
+  constexpr Element& operator[](std::integral auto number) { return this->at(static_cast<std::size_t>(number)); }
+  constexpr const Element& operator[](std::integral auto number) const {
+    return this->at(static_cast<std::size_t>(number));
+  }
+};
+
+/// Elements 1 and up of an array whose element 0 holds no game data.
+template <typename Elements>
+auto WithoutPlaceZero(Elements& elements) {
+  return std::span(elements).template subspan<1>();
+}
+
+/// The state of a check box as a number. Unlike a boolean it is stored as 0 or 1, and a file may bring any number.
+struct CheckValue {
+  std::int16_t Value = 0;
+
+  constexpr CheckValue() = default;
+  constexpr explicit CheckValue(std::int16_t value) : Value(value) {}
+  bool operator==(const CheckValue&) const = default;
+  constexpr bool IsOn() const { return Value == 1; }
+  constexpr bool IsOff() const { return Value == 0; }
+};
+
+inline constexpr CheckValue kOff{0};
+inline constexpr CheckValue kOn{1};
 
 struct TPlayer {
   std::string Name;
@@ -54,10 +87,6 @@ struct TRoll {
 
   bool operator==(const TRoll&) const = default;
 };
-
-/// Theoretical share of each sum in percent, with one decimal, as the figures show it.
-inline constexpr Numbered<float, 13> DiceProbability{0,     0,     2.8F,  5.6F, 8.3F, 11.1F, 13.9F,
-                                                     16.7F, 13.9F, 11.1F, 8.3F, 5.6F, 2.8F};
 
 /// What a game file holds and what is derived from it. Index 0 of the arrays holds no game data.
 struct Game {
@@ -123,5 +152,19 @@ struct State {
 
   const std::string& Text(int number) const { return language.Text[number]; }
 };
+
+/// Whether the number names a seat, 1 to 6.
+inline bool IsSeat(int number) { return number >= 1 && number <= kSeats; }
+
+/// `NumPlayers`, at least 0 and at most the six seats: an old game file may hold any number.
+inline int SeatsPlayed(const Game& game) { return std::clamp<int>(game.NumPlayers, 0, kSeats); }
+
+/// The players of the seats 1 to `NumPlayers`, whether or not they are marked as playing.
+inline std::span<const TPlayer> PlayersAtTheTable(const Game& game) {
+  return WithoutPlaceZero(game.Players).first(static_cast<std::size_t>(SeatsPlayed(game)));
+}
+
+/// Whether the event die is part of the game.
+inline bool HasEventDie(const Game& game) { return game.GameType != kBaseGame; }
 
 }  // namespace core

@@ -1,5 +1,5 @@
-// The beginning of a game: what the players have chosen takes effect, and all six seats get the pieces with which their
-// kind of game starts.
+// The beginning of a run, before any game is begun or loaded, and of a game: what the players have chosen takes effect,
+// and all six seats get the pieces with which their kind of game starts.
 #pragma once
 
 #include <cstdint>
@@ -8,6 +8,16 @@
 #include "game_state.h"
 
 namespace core {
+
+/// What holds before the settings file is read: options, keys of the event die, no language chosen, clocks shown.
+void SetDefaults(State& state);
+/// A base game of the seats 1 to 4 without any roll. Names stay.
+void BeginWithoutGame(State& state);
+/// Both clocks at zero and standing.
+void StopClocks(State& state);
+
+/// The settings that hold where the settings file says nothing: all is shown.
+void SetSettingsDefaults(State& state);
 
 /// What was chosen for a new game.
 struct NewGame {
@@ -23,7 +33,7 @@ struct NewGame {
 
 /// Begins the game: counts, points, pieces and titles anew, the clocks run from 0, the entry of a roll ends. The log
 /// stays behind the counts, as do `GameWon` and the names of the seats that do not play. Draws nothing and leaves the
-/// theme to the caller. Called by the new-game dialog.
+/// theme to the caller.
 void StartGame(State& state, const NewGame& chosen);
 
 /// The background theme that belongs to the game: 1 base game, 2 first expansion, 3 with the second expansion; 0 for

@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "arithmetic.h"
-#include "seats.h"
+#include "numbers.h"
 
 namespace core {
 namespace {

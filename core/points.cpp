@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-#include "arithmetic.h"
-#include "seats.h"
+#include "numbers.h"
 
 namespace core {
 namespace {

@@ -9,9 +9,7 @@ class Screen {
 
   virtual void DrawDiceStats() = 0;     ///< the chart and the last six rolls anew
   virtual void DrawPlayerPanels() = 0;  ///< the six panels, the leaders, the win test
-  virtual void ShowPlayerPanels() = 0;  ///< which panels are seen
   virtual void ShowRolledDice() = 0;    ///< `Die1`, `Die2`, `EventDie` as pictures of the main window
-  virtual void ShowStanding() = 0;      ///< the ranking, as winner window or on request
   virtual void ShowAttack() = 0;        ///< fills and opens the barbarian window
   virtual void CloseDiceDialog() = 0;   ///< which unlocks the main window, unless the attack keeps it locked
 };

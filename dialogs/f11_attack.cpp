@@ -1,8 +1,8 @@
 #include "f11_attack.h"
 
-#include "../core/clock.h"
+#include "../core/game_state.h"
 #include "../core/points.h"
-#include "../core/seats.h"
+#include "../core/standing.h"
 #include "../windows/form_metrics.h"
 #include "../windows/image_lists.h"
 

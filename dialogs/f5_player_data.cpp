@@ -2,9 +2,7 @@
 
 #include <algorithm>
 
-#include "../core/arithmetic.h"
-#include "../core/number_text.h"
-#include "../core/seats.h"
+#include "../core/numbers.h"
 #include "../storage/code_page.h"
 #include "../windows/form_metrics.h"
 #include "../windows/image_lists.h"

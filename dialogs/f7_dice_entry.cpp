@@ -1,7 +1,6 @@
 #include "f7_dice_entry.h"
 
-#include "../core/dice_entry.h"
-#include "../core/dice_log.h"
+#include "../core/rolls.h"
 #include "../storage/code_page.h"
 #include "../windows/form_metrics.h"
 #include "../windows/image_lists.h"

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "../core/new_game.h"
-#include "../core/number_text.h"
+#include "../core/numbers.h"
 #include "../platform/mnemonic.h"
 #include "../storage/code_page.h"
 #include "../storage/language_file.h"

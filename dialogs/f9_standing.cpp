@@ -1,6 +1,6 @@
 #include "f9_standing.h"
 
-#include "../core/ranking.h"
+#include "../core/standing.h"
 #include "../windows/form_metrics.h"
 #include "../windows/image_lists.h"
 #include "standing_table.h"

@@ -1,8 +1,8 @@
 #include "standing_table.h"
 
-#include "../core/number_text.h"
+#include "../core/game_state.h"
+#include "../core/numbers.h"
 #include "../core/points.h"
-#include "../core/seats.h"
 #include "../windows/image_lists.h"
 
 namespace dialogs {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "../core/game_state.h"
-#include "../core/ranking.h"
+#include "../core/standing.h"
 #include "../platform/surface.h"
 
 namespace dialogs {

@@ -2,7 +2,7 @@
 #include <cstdint>
 #include <sstream>
 
-#include "../core/defaults.h"
+#include "../core/new_game.h"
 #include "../storage/settings_file.h"
 
 namespace {

@@ -1,6 +1,7 @@
 #include "clock_strip.h"
 
 #include "../core/clock.h"
+#include "../core/standing.h"
 #include "../windows/image_lists.h"
 
 namespace mainwindow {

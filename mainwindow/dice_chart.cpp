@@ -1,8 +1,8 @@
 #include "dice_chart.h"
 
-#include "../core/dice_entry.h"
 #include "../core/dice_stats.h"
-#include "../core/number_text.h"
+#include "../core/numbers.h"
+#include "../core/rolls.h"
 #include "../storage/code_page.h"
 #include "../windows/form_metrics.h"
 #include "../windows/image_lists.h"

@@ -1,9 +1,9 @@
 #include "main_window.h"
 
 #include "../core/clock.h"
-#include "../core/dice_entry.h"
 #include "../core/new_game.h"
 #include "../core/points.h"
+#include "../core/rolls.h"
 #include "../windows/image_lists.h"
 #include "clock_strip.h"
 #include "dice_chart.h"
@@ -59,7 +59,7 @@ void MainWindow::DrawPlayerPanels() {
   F4.OfferActions();
   if (!core::WinningSeat(State)) return;
   State.game.GameWon = true;
-  ShowStanding();
+  F9.ShowStanding();
 }
 
 void MainWindow::ShowPlayerPanels() {

@@ -2,8 +2,8 @@
 // the rules. Its parts stand in files of their own: start-up, commands' handlers, keys and mouse, the language.
 #pragma once
 
-#include "../core/auto_roll.h"
 #include "../core/game_state.h"
+#include "../core/rolls.h"
 #include "../core/screen.h"
 #include "../dialogs/f11_attack.h"
 #include "../dialogs/f20_new_game.h"
@@ -59,11 +59,12 @@ class MainWindow : public core::Screen, private storage::GameFileEvents {
   // core::Screen
   void DrawDiceStats() override;
   void DrawPlayerPanels() override;
-  void ShowPlayerPanels() override;
   void ShowRolledDice() override;
-  void ShowStanding() override { F9.ShowStanding(); }
   void ShowAttack() override { F11.ShowAttack(); }
   void CloseDiceDialog() override { F7.Leave(); }
+
+  /// The panels of the seats that play.
+  void ShowPlayerPanels();
 
   // One for each menu entry; the tool bar calls the same.
   void F1_mnuGameNew_Click();

@@ -1,7 +1,7 @@
 // What the commands of the main window do, one handler for each menu entry.
-#include "../core/dice_log.h"
 #include "../core/player_actions.h"
 #include "../core/points.h"
+#include "../core/rolls.h"
 #include "main_window.h"
 
 namespace mainwindow {
@@ -15,7 +15,7 @@ void MainWindow::F1_mnuFileQuit_Click() { SaveSettings(); }
 
 void MainWindow::F1_mnuExtraZS_Click() {
   State.game.GameWon = false;
-  ShowStanding();
+  F9.ShowStanding();
 }
 
 void MainWindow::F1_mnuSpecialLHS_Click() {

@@ -1,7 +1,7 @@
 // The dispatch of keys, clicks and tool-bar buttons of the main window.
-#include "../core/dice_entry.h"
+#include "../core/game_state.h"
 #include "../core/points.h"
-#include "../core/seats.h"
+#include "../core/rolls.h"
 #include "main_window.h"
 
 namespace mainwindow {

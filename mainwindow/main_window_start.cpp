@@ -1,7 +1,7 @@
 // The start-up sequence of the main window; each step relies on those before it.
 #include <filesystem>
 
-#include "../core/defaults.h"
+#include "../core/new_game.h"
 #include "../core/points.h"
 #include "main_window.h"
 

@@ -1,7 +1,7 @@
 #include "player_panels.h"
 
-#include "../core/number_text.h"
-#include "../core/symbols.h"
+#include "../core/numbers.h"
+#include "../core/standing.h"
 #include "../windows/image_lists.h"
 #include "themes.h"
 

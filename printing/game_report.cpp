@@ -1,10 +1,9 @@
 #include "game_report.h"
 
-#include "../core/arithmetic.h"
-#include "../core/dice_entry.h"
 #include "../core/dice_stats.h"
-#include "../core/number_text.h"
-#include "../core/symbols.h"
+#include "../core/numbers.h"
+#include "../core/rolls.h"
+#include "../core/standing.h"
 #include "../windows/image_lists.h"
 
 namespace printing {

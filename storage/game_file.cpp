@@ -1,6 +1,6 @@
 #include "game_file.h"
 
-#include "../core/number_text.h"
+#include "../core/numbers.h"
 #include "game_file_layout.h"
 #include "line_writer.h"
 #include "words.h"

@@ -7,7 +7,6 @@
 #include <string_view>
 
 #include "../core/game_state.h"
-#include "../core/seats.h"
 
 namespace storage {
 

@@ -1,6 +1,6 @@
 #include "game_file_reader.h"
 
-#include "../core/number_text.h"
+#include "../core/numbers.h"
 #include "code_page.h"
 #include "game_file_layout.h"
 #include "line_reader.h"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "../core/seats.h"
+#include "../core/game_state.h"
 #include "code_page.h"
 #include "line_writer.h"
 #include "settings_file_layout.h"

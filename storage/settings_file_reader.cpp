@@ -1,8 +1,8 @@
 // The reader of the settings file; see settings_file.h.
 #include <span>
 
-#include "../core/number_text.h"
-#include "../core/seats.h"
+#include "../core/game_state.h"
+#include "../core/numbers.h"
 #include "code_page.h"
 #include "line_reader.h"
 #include "settings_file.h"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "../core/number_text.h"
+#include "../core/numbers.h"
 
 namespace storage {
 namespace {

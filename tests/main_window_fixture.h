@@ -6,8 +6,8 @@
 
 #include <string>
 
-#include "../core/dice_log.h"
 #include "../core/points.h"
+#include "../core/rolls.h"
 #include "../mainwindow/main_window.h"
 #include "keyboard.h"
 #include "numbered_program.h"

@@ -3,9 +3,8 @@
 
 #include <gmock/gmock.h>
 
-#include "../../core/arithmetic.h"
 #include "../../core/clock.h"
-#include "../../core/number_text.h"
+#include "../../core/numbers.h"
 
 namespace tests {
 namespace {

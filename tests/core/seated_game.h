@@ -4,7 +4,7 @@
 #include <array>
 #include <string>
 
-#include "../../core/seats.h"
+#include "../../core/game_state.h"
 
 namespace tests {
 

@@ -2,6 +2,9 @@
 // was looked at, ORVANBEG_WRITE_PICTURES=1 in the environment writes the files anew.
 #include <cstdlib>
 
+#include "../../core/points.h"
+#include "../../core/rolls.h"
+#include "../../mainwindow/main_window.h"
 #include "../../printing/game_report.h"
 #include "../folders.h"
 #include "../main_window_fixture.h"

@@ -5,7 +5,7 @@
 
 #include <sstream>
 
-#include "../../core/defaults.h"
+#include "../../core/new_game.h"
 #include "../../storage/regular_file.h"
 #include "temporary_folder.h"
 

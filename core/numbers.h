@@ -1,4 +1,5 @@
-// Numbers as the program writes them into drawings and captions.
+// Whole numbers of 16 bits, whose sums are worked out in more and brought back here, and numbers as text: as the
+// program writes them into drawings and captions, and as it reads them from typed text and files.
 #pragma once
 
 #include <cstdint>
@@ -7,6 +8,15 @@
 #include <string_view>
 
 namespace core {
+
+/// The number itself if 16 bits hold it, else the nearest that they hold.
+std::int16_t Saturate16(long long value);
+
+/// The nearest whole number; of two equally near ones the even one.
+double RoundHalfEven(double value);
+
+/// Rounds both sides to whole numbers and divides them, dropping the rest; 0 where the divisor is 0.
+long long WholeDivide(double dividend, double divisor);
 
 /// A percentage with exactly one decimal, a tie rounded away from zero, with the system's decimal separator: "16,7".
 std::string WithOneDecimal(float value, const std::string& decimalSeparator);

@@ -1,11 +1,9 @@
-#include "number_text.h"
+#include "numbers.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
-
-#include "arithmetic.h"
 
 namespace core {
 namespace {
@@ -17,6 +15,23 @@ std::string WithSeparator(std::string text, const std::string& decimalSeparator)
 }
 
 }  // namespace
+
+std::int16_t Saturate16(long long value) {
+  using Limits = std::numeric_limits<std::int16_t>;
+  return static_cast<std::int16_t>(std::clamp<long long>(value, Limits::min(), Limits::max()));
+}
+
+double RoundHalfEven(double value) {
+  const double below = std::floor(value);
+  const double rest = value - below;
+  if (rest != 0.5) return rest < 0.5 ? below : below + 1;
+  return std::fmod(below, 2) == 0 ? below : below + 1;
+}
+
+long long WholeDivide(double dividend, double divisor) {
+  const auto divideBy = static_cast<long long>(RoundHalfEven(divisor));
+  return divideBy == 0 ? 0 : static_cast<long long>(RoundHalfEven(dividend)) / divideBy;
+}
 
 std::string WithOneDecimal(float value, const std::string& decimalSeparator) {
   const double tenths = std::round(static_cast<double>(value) * 10);

@@ -1,14 +1,28 @@
-#include "dice_log.h"
+#include "rolls.h"
 
 #include <algorithm>
 #include <numeric>
 
-#include "arithmetic.h"
+#include "numbers.h"
 
 namespace core {
 namespace {
 
 constexpr int kShipsPerAttack = 7;
+
+Entered EnterDigit(Entry& entry, int value) {
+  if (entry.DiceEntryStage == 0) {
+    entry.DiceEntryStage = 1;
+    entry.Die1 = static_cast<std::int16_t>(value);
+    return Entered::BlackDie;
+  }
+  if (entry.DiceEntryStage == 1) {
+    entry.DiceEntryStage = 2;
+    entry.Die2 = static_cast<std::int16_t>(value);
+    return Entered::RedDie;
+  }
+  return Entered::Nothing;
+}
 
 /// Changes the count of a sum or face by one, down to 0 at the least; an index that a file has made up does nothing.
 template <typename Counts>
@@ -32,7 +46,44 @@ bool Record(State& state) {
   return true;
 }
 
+std::int16_t Roll(const RandomSource& random, int sides) { return static_cast<std::int16_t>(random() * sides + 1); }
+
+std::int16_t RollEventDie(const RandomSource& random, EventDieOf command) {
+  if (command == EventDieOf::Mouse) return Roll(random, kEventFaces);
+  return std::min<std::int16_t>(Roll(random, 6), kShipFace);
+}
+
 }  // namespace
+
+void BeginEntry(Entry& entry) {
+  entry.Die1 = 0;
+  entry.Die2 = 0;
+  entry.EventDie = 0;
+}
+
+void BeginEntryWithDigit(Entry& entry, std::int16_t value) {
+  BeginEntry(entry);
+  entry.DiceEntryStage = 1;
+  entry.Die1 = value;
+}
+
+Entered EnterKey(State& state, int keyCode) {
+  if (const int value = DieOfKey(keyCode)) return EnterDigit(state.entry, value);
+  if (state.entry.DiceEntryStage != 2 || keyCode == 0) return Entered::Nothing;
+  Entered entered = Entered::Nothing;
+  for (std::int16_t face = 1; face <= kEventFaces; ++face) {
+    if (state.settings.EventHotkey[face] != keyCode) continue;
+    state.entry.EventDie = face;
+    entered = Entered::EventFace;
+  }
+  return entered;
+}
+
+bool EntryComplete(const State& state) {
+  return state.entry.Die1 > 0 && state.entry.Die2 > 0 && (state.entry.EventDie > 0 || !HasEventDie(state.game));
+}
+
+int DieOfKey(int keyCode) { return keyCode >= '1' && keyCode <= '6' ? keyCode - '0' : 0; }
 
 std::int16_t CountTotalRolls(Game& game) {
   game.TotalRolls = Saturate16(std::accumulate(game.DiceCount.begin() + kLowestSum, game.DiceCount.end(), 0));
@@ -65,6 +116,13 @@ void UndoLastRoll(State& state, Screen& screen) {
     roll = {};
   }
   screen.DrawDiceStats();
+}
+
+void AutoRoll(State& state, Screen& screen, const RandomSource& random, EventDieOf command) {
+  state.entry.Die1 = Roll(random, 6);
+  state.entry.Die2 = Roll(random, 6);
+  state.entry.EventDie = RollEventDie(random, command);
+  RecordRoll(state, screen);
 }
 
 }  // namespace core

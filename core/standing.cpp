@@ -1,8 +1,8 @@
-#include "ranking.h"
+#include "standing.h"
 
 #include <algorithm>
 
-#include "seats.h"
+#include "points.h"
 
 namespace core {
 namespace {
@@ -36,6 +36,32 @@ std::vector<RankedPlayer> RankPlayers(const Game& game) {
   NumberRanks(players);
   players.resize(static_cast<std::size_t>(SeatsPlayed(game)));
   return players;
+}
+
+std::vector<Symbol> SymbolsOf(const TPlayer& player, int atMost) {
+  const struct {
+    Symbol symbol;
+    int times;
+  } row[] = {{kPoliticsSymbol, player.PoliticsMetropolis}, {kTradeSymbol, player.TradeMetropolis},
+             {kScienceSymbol, player.ScienceMetropolis},   {kCitySymbol, player.Cities - MetropolisCount(player)},
+             {kSettlementSymbol, player.Settlements},      {kLongestRoadSymbol, player.LongestRoad},
+             {kLargestArmySymbol, player.LargestArmy},     {kMerchantSymbol, player.Merchant},
+             {kBonusPointSymbol, player.BonusPoints}};
+  std::vector<Symbol> symbols;
+  for (const auto& [symbol, times] : row) {
+    for (int i = 0; i < times && static_cast<int>(symbols.size()) < atMost; ++i) symbols.push_back(symbol);
+  }
+  return symbols;
+}
+
+BoardTotals CountBoard(const Game& game) {
+  BoardTotals totals;
+  for (const TPlayer& player : PlayersAtTheTable(game)) {
+    totals.Settlements += player.Settlements;
+    totals.Cities += player.Cities;
+    totals.Metropolises += MetropolisCount(player);
+  }
+  return totals;
 }
 
 }  // namespace core

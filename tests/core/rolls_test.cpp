@@ -1,10 +1,9 @@
 // Rolls by hand and by the program: counted and logged in step, and taken back one by one, whatever numbers a file has
 // brought.
-#include "../../core/dice_log.h"
+#include "../../core/rolls.h"
 
 #include <gmock/gmock.h>
 
-#include "../../core/auto_roll.h"
 #include "../../core/screen.h"
 
 namespace tests {
@@ -28,8 +27,6 @@ class DiceLogTest : public testing::Test, public core::Screen {
   void ShowAttack() override { Calls.push_back("attack"); }
   void CloseDiceDialog() override { Calls.push_back("close after " + std::to_string(game.Clock[1]) + " s"); }
   void DrawPlayerPanels() override {}
-  void ShowPlayerPanels() override {}
-  void ShowStanding() override {}
 
   std::vector<std::string> Calls;
   core::State state;
