@@ -6,7 +6,8 @@
 #include "windows/image_lists.h"
 
 int main(int, char** arguments) {
-  platform::qt::Application application(arguments[0], "Orvan Begleiter", windows::kProgramIcon);
+  platform::qt::Application application(arguments[0], "Orvan Begleiter",
+                                        {windows::kProgramIcon, windows::kSmallProgramIcon});
   platform::qt::QtServices services;
   mainwindow::MainWindow window(services);
   platform::qt::Shell shell(window.Desktop, window.F1);

@@ -34,7 +34,9 @@ install(FILES ${ORVANBEG_PACKAGING}/orvanbeg.desktop DESTINATION ${CMAKE_INSTALL
 install(FILES ${ORVANBEG_PACKAGING}/example.orvan_begleiter.orvanbeg.metainfo.xml
   DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES resources/orvanbeg.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
-install(FILES ${ORVANBEG_PACKAGING}/orvanbeg-48.png DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/48x48/apps
-  RENAME orvanbeg.png)
+foreach(size 16 48)
+  install(FILES ${ORVANBEG_PACKAGING}/orvanbeg-${size}.png
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${size}x${size}/apps RENAME orvanbeg.png)
+endforeach()
 
 include(${ORVANBEG_PACKAGING}/debian/package.cmake)

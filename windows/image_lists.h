@@ -28,8 +28,9 @@ inline constexpr platform::ImageList imlToolbar{"imlToolbar", 11, 16};
 /// Kinds of game: 1 base game, 2 first expansion, 3 second expansion, 4 more than four players, 5 scenario.
 inline constexpr platform::ImageList imlGameType{"imlGameType", 5, 48};
 
-/// The program's own icon, and the arrow from a row of dice to the chosen one.
+/// The program's own icon, the one for places of 16 pixels, and the arrow from a row of dice to the chosen one.
 inline const platform::Picture kProgramIcon{"orvanbeg.svg"};
+inline const platform::Picture kSmallProgramIcon{"orvanbeg-16.svg"};
 inline const platform::Picture kArrow{"arrow.svg"};
 inline const platform::Picture kLogo{"logo.svg"};
 inline const platform::Picture kWinner{"winner.svg"};

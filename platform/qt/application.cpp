@@ -11,13 +11,28 @@
 
 namespace platform::qt {
 
-Application::Application(char* programPath, const char* name, const Picture& icon)
+namespace {
+
+QIcon IconOf(const Application::Icon& icon) {
+  constexpr int kLargestSmall = 24;  // pixels
+  const QIcon drawing(":/" + ToQt(icon.Drawing.Name));
+  const QIcon smallDrawing(":/" + ToQt(icon.SmallDrawing.Name));
+  QIcon sizes;
+  for (const int size : {16, 24, 32, 48, 64, 128}) {
+    sizes.addPixmap((size <= kLargestSmall ? smallDrawing : drawing).pixmap(QSize(size, size), 1.0));
+  }
+  return sizes;
+}
+
+}  // namespace
+
+Application::Application(char* programPath, const char* name, const Icon& icon)
     : arguments_{programPath, nullptr}, application_(argumentCount_, arguments_) {
   QApplication::setApplicationName(QString::fromUtf8(name));
   QApplication::setDesktopFileName("orvanbeg");
   QApplication::setStyle("Fusion");
   QApplication::setFont(qt::ToQt(Font{}));
-  QApplication::setWindowIcon(QIcon(":/" + ToQt(icon.Name)));
+  QApplication::setWindowIcon(IconOf(icon));
   QApplication::setQuitOnLastWindowClosed(false);
   InstallSpokenRoles();
   if (toolkitWords_.load(QLocale::system(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {

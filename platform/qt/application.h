@@ -11,8 +11,13 @@ namespace platform::qt {
 
 class Application {
  public:
+  struct Icon {
+    Picture Drawing;
+    Picture SmallDrawing;  ///< for title bars and lists, of fewer strokes
+  };
+
   /// `name` of the program as titles show it. The command line is not read.
-  Application(char* programPath, const char* name, const Picture& icon);
+  Application(char* programPath, const char* name, const Icon& icon);
 
   ~Application();
 
