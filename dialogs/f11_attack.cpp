@@ -63,7 +63,7 @@ void F11::SetCaptions() {
 }
 
 void F11::ShowAttack() {
-  Visible = true;
+  Show();
   if (context_.lock.IsTaken()) context_.lock.Take(*this);
   picShowPlayers.Drawing.Cls();
   const int seats = core::SeatsPlayed(state().game);

@@ -203,8 +203,7 @@ void F20::F20_cmdStart_Click() {
   chosen.Title = txtSpieltitel.Text;
   chosen.Info = txtSpielinfo.Text;
   core::StartGame(state(), chosen);
-  Leave();
-  if (OnStart) OnStart();
+  Leave(OnStart);
 }
 
 }  // namespace dialogs

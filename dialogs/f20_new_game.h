@@ -35,7 +35,7 @@ class F20 : public windows::Dialog {
   platform::CommandButton cmdCancel;
   platform::ControlArray<platform::PictureBox> picGameStatus;
 
-  /// Called when the game has been started and the dialog is closed: the windows follow the new game.
+  /// Called when the game has been started, before the dialog goes: the windows follow the new game.
   std::function<void()> OnStart;
 
   /// Fills the dialog and opens it.

@@ -14,6 +14,7 @@ constexpr Place kTextPlace{60, 60, 8055, 6315};
 constexpr Place kOkPlace{3420, 6420, 1395, 375};
 
 constexpr std::size_t kMostShown = 1 << 16;  // bytes; a text field is slow with more
+const std::string kMore = "[…]";             // where the file goes on
 
 }  // namespace
 
@@ -38,7 +39,11 @@ void F2::ShowFile(const std::string& name) {
   if (!file.is_open()) return;
   storage::LineReader reader(file, storage::LineFeeds::EndLines);
   std::string text;
-  for (std::string line; reader.Next(line) && text.size() + line.size() < kMostShown;) text += "\r\n" + line;
+  for (std::string line; reader.Next(line);) {
+    const bool fits = text.size() + line.size() < kMostShown;
+    text += "\r\n" + (fits ? line : kMore);
+    if (!fits) break;
+  }
   txtInfo.Text = text;
   SetFocus(txtInfo);  // so that the keys scroll
   Show();

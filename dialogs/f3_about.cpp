@@ -68,6 +68,7 @@ F3::F3(const windows::Context& context)
   cmdOK.Caption = "OK";
   cmdOK.Default = true;
   cmdOK.Click = [this] { F3_cmdOK_Click(); };
+  Close = [this] { F3_cmdOK_Click(); };  // where a desktop shows a close box that was not asked for
   timClock.Tick = [this] { F3_timClock_Timer(); };
 }
 

@@ -78,6 +78,7 @@ F5::F5(const windows::Context& context)
       picSymbol(this, "picSymbol", kSymbolPlaces),
       cmdOK(this, "cmdOK", kOkPlace) {
   for (int row = 0; row < kRows; ++row) {
+    txtData(row).Change = [this, row] { F5_txtData_Change(row); };
     txtData(row).KeyUp = [this, row](platform::KeyCode, platform::Modifiers) { F5_txtData_KeyUp(row); };
     if (row == 0) continue;
     txtData(row).Align = platform::Alignment::Centre;
@@ -156,17 +157,22 @@ void F5::Step(int row, int by) {
   ShowValue(row);
 }
 
-/// Any key: the name and numbers are taken as they stand, a flag turns over.
+/// The name and numbers are taken as they stand, however they came; what is no number may be on its way to one.
+void F5::F5_txtData_Change(int row) {
+  const Row& about = kTable[row];
+  const std::string& text = txtData(row).Text.Get();
+  if (about.Number) {
+    Player().*about.Number = core::WholeNumberIn(text).value_or(Player().*about.Number);
+  } else if (!about.Flag) {
+    Player().Name = text;
+  }
+}
+
+/// Any key: a flag turns over, and what is still no number gives way.
 void F5::F5_txtData_KeyUp(int row) {
   const Row& about = kTable[row];
   if (about.Flag) return Step(row, 1);
-  platform::TextBox& field = txtData(row);
-  if (!about.Number) {
-    Player().Name = field.Text;
-    return;
-  }
-  if (!core::WholeNumberIn(field.Text.Get())) field.Text = about.Otherwise;
-  Player().*about.Number = core::WholeNumberIn(field.Text.Get()).value_or(0);
+  if (about.Number && !core::WholeNumberIn(txtData(row).Text.Get())) txtData(row).Text = about.Otherwise;
 }
 
 }  // namespace dialogs

@@ -28,6 +28,7 @@ class F5 : public windows::Dialog {
   void ShowRows();
   void ShowValue(int row);
   void Step(int row, int by);
+  void F5_txtData_Change(int row);
   void F5_txtData_KeyUp(int row);
 };
 

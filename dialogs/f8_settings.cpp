@@ -110,9 +110,11 @@ void F8::WireEvents() {
   cbxShowPlayerTime.Click = [this] { state().settings.ShowPlayerTime = IsTicked(cbxShowPlayerTime); };
   chkHGAuto.Click = [this] { F8_chkHGAuto_Click(); };
   cmbHG.Change = cmbHG.Click = [this] { SelectBackground(); };
+  txtSieger.Change = [this] { F8_txtSieger_Change(); };
   txtSieger.KeyUp = [this](platform::KeyCode, platform::Modifiers) { F8_txtSieger_KeyUp(); };
   for (int i = 0; i < core::kEventFaces; ++i) txtEWHotkey(i).Change = [this, i] { F8_txtEWHotkey_Change(i); };
   cmdOK.Click = [this] { F8_cmdOK_Click(); };
+  Close = [this] { F8_Close(); };
 }
 
 void F8::ShowStartValues() {
@@ -175,6 +177,7 @@ void F8::OpenSettings() {
   cbxBarbarians.Value = Tick(settings.ShowBarbarians);
   comSelectLang.Text = state().language.Languages[0];
   ShowTheme(settings.HG);
+  SetFocus(cbxLastSix);
   Open();
 }
 
@@ -230,13 +233,16 @@ void F8::F8_txtEWHotkey_Change(int index) {
   cmdOK.Enabled = AllHotkeysValid();
 }
 
+void F8::F8_txtSieger_Change() {
+  if (const auto points = core::WholeNumberIn(txtSieger.Text.Get())) state().game.WinPoints = *points;
+}
+
 void F8::F8_txtSieger_KeyUp() {
   const std::int16_t gameType = state().game.GameType;
   if (!core::NumberIn(txtSieger.Text.Get())) {
     if (gameType == core::kBaseGame) txtSieger.Text = "10";
     if (gameType == core::kFirstExpansion) txtSieger.Text = "13";
   }
-  if (const auto points = core::WholeNumberIn(txtSieger.Text.Get())) state().game.WinPoints = *points;
 }
 
 /// Takes over what waits for OK.
@@ -252,6 +258,11 @@ void F8::TakeOver() {
   HotkeysChanged();
 }
 
+/// Some desktops show a close box that was not asked for. The first run is not left without a language.
+void F8::F8_Close() {
+  if (!fraMustSL.Visible) Click(cmdOK);
+}
+
 void F8::F8_cmdOK_Click() {
   TakeOver();
   const std::string chosen = comSelectLang.Text;
@@ -262,9 +273,10 @@ void F8::F8_cmdOK_Click() {
   ShowLayout(false);
   const std::string before = std::exchange(state().language.Languages[0], chosen);
   if (!LoadLanguage()) state().language.Languages[0] = before;
-  Leave();
-  screen().DrawPlayerPanels();
-  screen().DrawDiceStats();
+  Leave([this] {
+    screen().DrawPlayerPanels();
+    screen().DrawDiceStats();
+  });
 }
 
 }  // namespace dialogs

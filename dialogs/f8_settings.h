@@ -61,7 +61,9 @@ class F8 : public windows::Dialog {
   bool AllHotkeysValid() const;
   void F8_chkHGAuto_Click();
   void F8_txtEWHotkey_Change(int index);
+  void F8_txtSieger_Change();
   void F8_txtSieger_KeyUp();
+  void F8_Close();
   void F8_cmdOK_Click();
   void TakeOver();
 };

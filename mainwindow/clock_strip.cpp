@@ -1,5 +1,7 @@
 #include "clock_strip.h"
 
+#include <algorithm>
+
 #include "../core/clock.h"
 #include "../core/standing.h"
 #include "../windows/image_lists.h"
@@ -20,6 +22,7 @@ constexpr int kPauseLeft = 500;
 constexpr int kPauseUp = 1000;
 constexpr int kLabelUp = 1400;
 constexpr int kTimeUp = 1200;
+constexpr int kMostFrame = 750;
 constexpr int kGameClockX = 200;
 constexpr int kPlayerClockFromRight = 2200;
 
@@ -53,7 +56,9 @@ void DrawClock(const std::string& label, int seconds, int x, int height, Surface
 void DrawClockStrip(const State& state, platform::Form& f1) {
   Surface& surface = f1.Drawing;
   const int width = f1.Width();
-  const int height = f1.Height();
+  // The frames of desktops differ: what one adds beyond this would push the clocks out of the window.
+  const int above = std::min(f1.MenuBarHeight + f1.FrameHeight, kMostFrame);
+  const int height = f1.Position.Get().Height + above;
   surface.Cls();
   surface.ForeColor = platform::kWhite;
   DrawTotals(state, width - kTotalsFromRight, surface);

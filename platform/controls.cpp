@@ -14,6 +14,14 @@ void CheckBox::PropertyChanged(Aspect aspect) {
   if (aspect == Aspect::Value && Click) Click();
 }
 
+void OptionButton::UserClick() {
+  if (!Value) {
+    Value = true;
+  } else if (Click) {
+    Click();
+  }
+}
+
 void OptionButton::PropertyChanged(Aspect aspect) {
   Control::PropertyChanged(aspect);
   if (aspect != Aspect::Value || !Value) return;

@@ -77,11 +77,11 @@ class OptionButton : public Control {
   using Control::Control;
   Property<std::string> Caption{*this, Aspect::Caption};
   Property<bool> Value{*this, Aspect::Value};
-  std::function<void()> Click;  ///< the button has become the one that is set
+  std::function<void()> Click;  ///< the button has become the one that is set, or was clicked while it was
   std::function<void(MouseButton)> MouseUp;
 
   bool TakesFocus() const override { return true; }
-  void UserClick() override { Value = true; }
+  void UserClick() override;
   void PropertyChanged(Aspect aspect) override;
   void Accept(ControlVisitor& visitor) override;
 };

@@ -162,7 +162,7 @@ void Form::MouseUp(Control& control, MouseButton button) {
 }
 
 void Form::PressCloseBox() {
-  if (HasCloseBox == CloseBox::Present && AcceptsInput() && Close) Close();
+  if (AcceptsInput() && Close) Close();
 }
 
 std::vector<Control*> Form::TabOrder() const {

@@ -3,6 +3,7 @@
 namespace platform {
 
 KeyTracker::Verdict KeyTracker::Press(KeyCode code, Time now, bool markedAsRepeat) {
+  if (markedAsRepeat && marksAreTrue_) return Verdict::Repeat;
   State& key = keys_[code];
   const bool typedJustBefore = key.releasedAt && now - *key.releasedAt < kRepeatDelay;
   const bool repeat = key.isDown || (markedAsRepeat && !typedJustBefore);
@@ -13,6 +14,7 @@ KeyTracker::Verdict KeyTracker::Press(KeyCode code, Time now, bool markedAsRepea
 }
 
 KeyTracker::Verdict KeyTracker::Release(KeyCode code, Time now, bool markedAsRepeat) {
+  if (markedAsRepeat && marksAreTrue_) return Verdict::Repeat;
   State& key = keys_[code];
   const bool heldLong = key.isDown && now - key.downSince >= kRepeatDelay;
   if (markedAsRepeat && (heldLong || !key.isDown)) return Verdict::Repeat;

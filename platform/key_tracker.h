@@ -19,6 +19,9 @@ class KeyTracker {
   /// How long a release waits for the press of a repeat.
   static constexpr Time kPatience{20};
 
+  /// `marksAreTrue`: the toolkit repeats keys itself, and marks each repeat.
+  explicit KeyTracker(bool marksAreTrue = false) : marksAreTrue_(marksAreTrue) {}
+
   enum class Verdict { Counts, Waits, Repeat };
 
   /// A key goes down at a time. `Repeat`: it was down all the while, nothing happened. Marks are believed only where
@@ -36,6 +39,7 @@ class KeyTracker {
     Time downSince{};
     std::optional<Time> releasedAt;  ///< set while a release waits, and after the key came up for good
   };
+  const bool marksAreTrue_;
   std::map<KeyCode, State> keys_;
 };
 

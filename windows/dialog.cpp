@@ -19,15 +19,14 @@ void Dialog::Open() {
   context_.lock.Take(*this);
 }
 
-void Dialog::Leave() {
+void Dialog::Leave(const std::function<void()>& last) {
   context_.lock.GiveBack(*this);
+  if (last) last();
   Visible = false;
 }
 
 void Dialog::LeaveAndScore() {
-  context_.lock.GiveBack(*this);
-  core::CalcPoints(state().game, screen());
-  Visible = false;
+  Leave([this] { core::CalcPoints(state().game, screen()); });
 }
 
 }  // namespace windows

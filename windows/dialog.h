@@ -2,6 +2,7 @@
 // disables the main window, and every way out, the close box included, hides it and gives the lock back.
 #pragma once
 
+#include <functional>
 #include <set>
 #include <string>
 
@@ -51,8 +52,9 @@ class Dialog : public platform::Form {
 
   /// Takes title and captions from the loaded language.
   virtual void SetCaptions() = 0;
-  /// Gives the lock back and hides the dialog.
-  void Leave();
+  /// Gives the lock back and hides the dialog; in between what is left to do: a window that it opens gets the keyboard
+  /// directly.
+  void Leave(const std::function<void()>& last = nullptr);
 
  protected:
   /// Shows the dialog in front of the others and locks the main window.

@@ -6,6 +6,7 @@
 
 #include "convert.h"
 #include "fonts.h"
+#include "key_codes.h"
 #include "shortcut_text.h"
 
 namespace platform::qt {
@@ -87,13 +88,14 @@ void FormWindow::FormChanged(Aspect aspect) {
   if (aspect == Aspect::Drawing) client_->DrawingChanged();
 }
 
-void FormWindow::FollowVisible(QPoint origin) {
+void FormWindow::FollowVisible() {
   if (!form_.Visible) return hide();
   if (!placed_) {
     const Place place = form_.Position;
     // Before there is a main window its first dialog stands in the middle of the screen.
     const bool alone = parentWidget() && !parentWidget()->isVisible();
     const QPoint middle = screen()->availableGeometry().center() - rect().center();
+    const QPoint origin = parentWidget() ? parentWidget()->frameGeometry().topLeft() : QPoint();
     const QPoint own = origin + QPoint(ToPixels(place.Left), ToPixels(place.Top));
     // A dialog that was given no place goes where the window manager has room for it.
     const bool anywhere = parentWidget() && place.Left == 0 && place.Top == 0;
@@ -107,7 +109,8 @@ void FormWindow::FollowVisible(QPoint origin) {
 
 void FormWindow::closeEvent(QCloseEvent* event) {
   event->ignore();  // the form decides what its close box does
-  form_.PressCloseBox();
+  // On X11 a close box that was not asked for is not shown, and nothing else stands for it; compositors show one.
+  if (form_.HasCloseBox == CloseBox::Present || OnWayland()) form_.PressCloseBox();
 }
 
 void FormWindow::showEvent(QShowEvent* event) {

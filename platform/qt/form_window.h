@@ -20,8 +20,8 @@ class FormWindow : public QWidget, public FormView {
   Form& Model() { return form_; }
   const WidgetBuilder& Widgets() const { return widgets_; }
   /// Shows or hides the window as the form says. A window that is first shown stands at the form's place, counted from
-  /// `origin`, where the main window stood at first (pixels).
-  void FollowVisible(QPoint origin);
+  /// where its owner stands now.
+  void FollowVisible();
 
   /// Takes note of what the window manager has put round the window.
   void LearnFrame();

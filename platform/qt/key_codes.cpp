@@ -30,7 +30,7 @@ constexpr quint32 kScanOf1 = 10;
 constexpr quint32 kScanOf0 = 19;
 
 bool ScanCodesAreKnown() {
-  static const bool known = QGuiApplication::platformName() == "xcb" || QGuiApplication::platformName() == "wayland";
+  static const bool known = QGuiApplication::platformName() == "xcb" || OnWayland();
   return known;
 }
 
@@ -68,6 +68,11 @@ KeyCode DigitCode(const QKeyEvent& event) {
 }
 
 }  // namespace
+
+bool OnWayland() {
+  static const bool wayland = QGuiApplication::platformName().startsWith("wayland");
+  return wayland;
+}
 
 KeyCode CodeOf(const QKeyEvent& event) {
   const int key = event.key();

@@ -11,6 +11,9 @@ namespace platform::qt {
 /// number pad is never the top row.
 KeyCode CodeOf(const QKeyEvent& event);
 
+/// Whether the windows are those of a Wayland compositor, whatever it is drawn with.
+bool OnWayland();
+
 Modifiers ModifiersOf(Qt::KeyboardModifiers held);
 
 }  // namespace platform::qt

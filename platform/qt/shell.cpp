@@ -7,8 +7,7 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QWindow>
-
-#include "key_codes.h"
+#include <utility>
 
 namespace platform::qt {
 namespace {
@@ -112,12 +111,12 @@ void Shell::FormChanged(Form& form, Aspect aspect) {
   if (aspect != Aspect::Visible) return;
   if (!form.Visible) {
     // The keyboard goes back before the window goes, so that the next key finds a window of the program.
-    FormWindow* main = WindowOf(mainForm_);
-    if (&form != &mainForm_ && mainForm_.AcceptsInput()) main->activateWindow();
-    if (FormWindow* window = WindowOf(form)) window->FollowVisible(origin_);
+    Form* next = mainForm_.AcceptsInput() ? &mainForm_ : desktop_.Front();
+    if (next) WindowOf(*next)->activateWindow();
+    if (FormWindow* window = WindowOf(form)) window->FollowVisible();
     return;
   }
-  MakeWindow(form).FollowVisible(origin_);
+  MakeWindow(form).FollowVisible();
 }
 
 bool Shell::eventFilter(QObject* watched, QEvent* event) {
@@ -140,7 +139,10 @@ bool Shell::FilterForWindow(FormWindow& window, QEvent& event) {
   }
   if (!IsUserInput(event.type()) || window.Model().AcceptsInput()) return false;
   Form* front = event.type() == QEvent::MouseButtonPress ? desktop_.Front() : nullptr;
-  if (front) BringToFront(*front);
+  if (front) {
+    calledBack_ = true;
+    BringToFront(*front);
+  }
   return true;
 }
 
@@ -193,10 +195,6 @@ void Shell::SettleReleases(KeyCode except) {
 
 void Shell::FollowActivation(FormWindow& window, QEvent::Type type) {
   if (type == QEvent::WindowActivate) {
-    if (&window.Model() == &mainForm_ && !originKnown_) {
-      origin_ = window.frameGeometry().topLeft();
-      originKnown_ = true;
-    }
     window.LearnFrame();
     return desktop_.Activated(window.Model());
   }
@@ -204,11 +202,17 @@ void Shell::FollowActivation(FormWindow& window, QEvent::Type type) {
   if (window.Model().AcceptsInput()) window.Model().ForgetKeys();
 }
 
-/// Keys that are down while a message box or another program gets the keyboard come up there.
+/// Keys that are down while a message box or another program gets the keyboard come up there. A compositor may move the
+/// focus to the window that was clicked only after the form in front was called back: then it is called again.
 void Shell::FollowFocusWindow(QWindow* window) {
-  if (window && FormWindowOf(window)) return;
-  keys_.Forget();
-  waiting_.clear();
+  FormWindow* form = window ? FormWindowOf(window) : nullptr;
+  if (!form) {
+    keys_.Forget();
+    return waiting_.clear();
+  }
+  if (QWidget* box = QApplication::activeModalWidget()) return box->activateWindow();
+  Form* front = form->Model().AcceptsInput() ? nullptr : desktop_.Front();
+  if (front && std::exchange(calledBack_, false)) BringToFront(*front);
 }
 
 void Shell::BringToFront(Form& form) {

@@ -13,6 +13,7 @@
 #include "../desktop.h"
 #include "../key_tracker.h"
 #include "form_window.h"
+#include "key_codes.h"
 
 class QKeyEvent;
 
@@ -53,10 +54,9 @@ class Shell : public QObject {
 
   Desktop& desktop_;
   Form& mainForm_;
-  QPoint origin_;
-  bool originKnown_ = false;
   std::map<const Form*, std::unique_ptr<FormWindow>> windows_;
-  KeyTracker keys_;
+  bool calledBack_ = false;  ///< by a click on a locked window
+  KeyTracker keys_{OnWayland()};
   std::vector<WaitingRelease> waiting_;
 };
 

@@ -86,7 +86,7 @@ void WidgetBuilder::Visit(TextBox& box) {
   auto* widget = new QLineEdit(parent_);
   widget->setReadOnly(box.ReadOnly);
   widget->setAlignment(ToQt(box.Align));
-  QObject::connect(widget, &QLineEdit::textEdited, widget,
+  QObject::connect(widget, &QLineEdit::textChanged, widget,
                    [&box](const QString& text) { box.Owner()->Type(box, text.toStdString()); });
   Adopt(box, widget);
 }

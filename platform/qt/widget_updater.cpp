@@ -26,6 +26,7 @@ constexpr int kMarkRoom = 20;  // pixels that the mark of a check box or option 
 /// nobody is, the beginning is seen.
 void SetTextOf(QLineEdit& line, const QString& text) {
   if (line.text() == text) return;
+  const QSignalBlocker ownChange(line);
   const bool emptied = line.text().isEmpty();
   const auto behind = line.hasFocus() ? line.text().size() - line.cursorPosition() : text.size();
   line.setText(text);

@@ -48,7 +48,7 @@ TEST_F(NewGameTest, ClicksStayInTheirBoundsAndCancelLeavesTheRunningGame) {
   const std::tuple<int, platform::Control*, const char*> clicks[] = {
       {1, &F20.cmdA(1), "11/4"}, {1, &F20.chkFlo, "10/4"},  {1, &F20.optB, "13/4"},     {5, &F20.cmdA(1), "18/4"},
       {1, &F20.chkSzen, "13/4"}, {12, &F20.cmdA(0), "2/4"}, {98, &F20.cmdA(1), "99/4"}, {3, &F20.cmdB(1), "99/6"},
-      {5, &F20.cmdB(0), "99/2"}, {1, &F20.optA, "10/2"}};
+      {5, &F20.cmdB(0), "99/2"}, {1, &F20.optA, "10/2"},    {1, &F20.cmdA(1), "11/2"},  {1, &F20.optA, "10/2"}};
   for (const auto& [times, control, shown] : clicks) {
     Clicks(times, *control);
     EXPECT_EQ(Shown(), shown) << control->Name;

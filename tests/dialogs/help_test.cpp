@@ -26,14 +26,13 @@ TEST_F(HelpTest, TheListGoesOnWhereTheWindowWasClosedAndBeginsAnewAfterItsEnd) {
   EXPECT_EQ(ListedAfter(8), 9U);
 }
 
-TEST_F(HelpTest, AboutShowsTheVersionAndOnlyOkClosesIt) {
+TEST_F(HelpTest, AboutShowsTheVersionAndEscDoesNotCloseIt) {
   const std::pair<platform::Version, const char*> versions[] = {
       {{3, 1, 302}, "V3.1.302"}, {{3, 1, 0}, "V3.1"}, {{2, 0, 7}, "V2.0.7"}};
   for (const auto& [version, text] : versions) {
     services.Version = version;
     Press(platform::FunctionKey(12));
     EXPECT_EQ(F3.lblFreeware.Caption.Get(), text);
-    F3.PressCloseBox();
     Key(F3, platform::kKeyEscape);
     EXPECT_TRUE(Locking(F3));
     Click(F3.cmdOK);
@@ -55,6 +54,10 @@ TEST_F(HelpTest, TheViewerShowsAFileBesideTheMainWindowAndEmptiesWhereThereIsNon
     EXPECT_TRUE(F2.Visible && window.F1.Enabled);
     EXPECT_EQ(F2.txtInfo.Text.Get(), text);
   }
+  const std::string line(40000, 'x');
+  Put(Folder / "tastatur.txt", line + "\n" + line);
+  keys();
+  EXPECT_EQ(F2.txtInfo.Text.Get(), "\r\n" + line + "\r\n[…]");
   remove(Folder / "tastatur.txt");
   keys();
   EXPECT_TRUE(F2.Visible && F2.txtInfo.Text.Get().empty());

@@ -102,8 +102,8 @@ TEST_F(PlayerDataTest, NumbersAreTakenAsTheyAreTyped) {
     Enter(row, typed);
     EXPECT_EQ(InRow(row), holds) << typed;
   }
-  Enter(0, "Zoë ");
-  EXPECT_EQ(ada.Name, "Zoë ");
+  for (const auto& [row, pasted] : {std::pair(0, "Zoë "), {1, "5"}, {1, "-"}}) F5.Type(F5.txtData(row), pasted);
+  EXPECT_EQ(ada.Name + InRow(1), "Zoë - 5") << "without a key; a sign is no number yet";
 }
 
 TEST_F(PlayerDataTest, ButtonsStepToTheirBoundAndBringTypedNumbersBackOnlyOnTheirOwnSide) {

@@ -96,10 +96,11 @@ TEST_F(SettingsTest, ClocksAndContrastTakeEffectAtOnce) {
   }
 }
 
-TEST_F(SettingsTest, OpeningLoadsTheThemeAnew) {
+TEST_F(SettingsTest, OpeningLoadsTheThemeAnewAndStartsAtTheFirstBox) {
   window.F1.picSP(2).Image = platform::Picture{};
-  Choose("mnuExtraSettings");
+  F8.SetFocus(F8.comSelectLang);
   F8.OpenSettings();
+  EXPECT_EQ(F8.Focus(), &F8.cbxLastSix);
   EXPECT_EQ(window.F1.picSP(2).Image.Get().Name, "img/basis_s3_high.jpg");
 }
 
@@ -109,9 +110,11 @@ TEST_F(SettingsTest, OnlyALanguageOfTheListClosesAndALostFileLeavesTheTexts) {
     Key(F8, platform::kKeyEnter);
     EXPECT_THAT(services.Boxes.back().Text, testing::HasSubstr("Please select language"));
   }
-  F8.PressCloseBox();
-  EXPECT_TRUE(Locking(F8));
   F8.Pick(F8.comSelectLang, 0);
+  F8.Type(F8.txtEWHotkey(0), "");
+  F8.PressCloseBox();
+  EXPECT_TRUE(Locking(F8)) << "OK could not be pressed either";
+  F8.Type(F8.txtEWHotkey(0), "P");
   remove(Folder / "language.ini");
   Key(F8, platform::kKeyEnter);
   EXPECT_TRUE(services.Boxes.size() == 4 && Closed(F8));

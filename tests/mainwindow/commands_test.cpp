@@ -1,4 +1,5 @@
 // Commands from the menu, its shortcuts and the tool bar; keys and clicks of the main window; the lock of the dialogs.
+#include "../drawn.h"
 #include "../main_window_fixture.h"
 
 namespace tests {
@@ -70,6 +71,14 @@ TEST_F(CommandsTest, TheClockStopsAndGoesOn) {
   }
 }
 
+TEST_F(CommandsTest, ATallFrameLeavesTheClocksInTheWindow) {
+  for (const auto& [frame, y] : {std::pair(600, "7955"), {2000, "8105"}}) {
+    window.F1.FrameHeight = frame;
+    window.F1.timSpielzeit.Elapsed();
+    EXPECT_THAT(Drawn(window.F1.Drawing).back(), testing::HasSubstr(std::string(",") + y + " 'PAUSE'"));
+  }
+}
+
 TEST_F(CommandsTest, TheLongestRoadIsTakenFromItsHolder) {
   game.Players[2].LongestRoad = game.Players[2].LargestArmy = true;
   Choose("mnuSpecialLHS");
@@ -131,10 +140,12 @@ TEST_F(CommandsTest, MouseOnDiceAndPanelsAndTheCloseBox) {
 TEST_F(CommandsTest, EveryDialogLocksAndEveryWayOutUnlocks) {
   const Act attack = [&] { game.EventCount[4] = 6, game.GameType = core::kFirstExpansion, Type("43B"); };
   const std::tuple<platform::Form*, Act, platform::Control*, platform::KeyCode> dialogs[] = {
+      {&window.F3, [&] { Press(FunctionKey(12)); }, &window.F3.cmdOK, platform::kKeyEnter},
       {&window.F4, [&] { Press(FunctionKey(2)); }, &window.F4.cmdNix, platform::kKeyEscape},
       {&window.F5, [&] { Press(FunctionKey(6), kAlt); }, &window.F5.cmdOK, platform::kKeyEnter},
       {&window.F6, [&] { Press('I', kCtrl); }, &window.F6.cmdOK, platform::kKeyEnter},
       {&window.F7, [&] { Type("43"); }, &window.F7.cmdNoOK, platform::kKeyEscape},
+      {&window.F8, [&] { Press(FunctionKey(8)); }, &window.F8.cmdOK, platform::kKeyEnter},
       {&window.F9, [&] { Press('T', kCtrl); }, &window.F9.cmdOK, platform::kKeyEnter},
       {&window.F10, [&] { Press('P', kCtrl); }, &window.F10.cmdPrintCancel, platform::kKeyEscape},
       {&window.F11, attack, &window.F11.cmdOK, platform::kKeyEnter},

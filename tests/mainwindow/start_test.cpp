@@ -55,6 +55,8 @@ TEST_F(StartTest, TheFirstRunTakesOnlyALanguageOfTheFile) {
     EXPECT_THAT(services.Boxes.back().Text, HasSubstr("Please select language"));
     EXPECT_TRUE(form.Visible);
     form.Pick(later.F8.comSelectLang, 1);
+    form.PressCloseBox();
+    EXPECT_TRUE(form.Visible);
     Key(form, platform::kKeyEnter);
   };
   ASSERT_EQ(StartWith({"Deutsch", "English"}), Started::Yes);

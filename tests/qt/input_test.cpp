@@ -1,4 +1,5 @@
 // What the toolkit's events become: key codes, clicks on pictures, typed texts, options and check boxes.
+#include <QAccessible>
 #include <QCheckBox>
 #include <QLineEdit>
 
@@ -56,6 +57,20 @@ TEST_F(Input, WhatTabOrTheProgramBringsIntoFocusMakesWayForTheNextKey) {
   EXPECT_TRUE(WindowOf(Window.F5).testAttribute(Qt::WA_KeyboardFocusChange)) << "no style marks the focus";
   for (const Qt::Key key : {Qt::Key_Backspace, Qt::Key_3}) Type(Window.F5, key);
   EXPECT_EQ(Window.State.game.Players[1].Settlements, 3);
+}
+
+TEST_F(Input, TextCountsByWhateverWayItCame) {
+  Window.State.game.Players[1].Name = "Jos";
+  Type(Window.F1, Qt::Key_F1, Qt::ShiftModifier);
+  Type(Window.F5, Qt::Key_End);
+  QInputMethodEvent composed;  // by a dead key: without a key press of its own
+  composed.setCommitString("é");
+  QApplication::sendEvent(&WidgetOf(Window.F5.txtData(0)), &composed);
+  auto* spoken = QAccessible::queryAccessibleInterface(&WidgetOf(Window.F5.txtData(1)));
+  spoken->setText(QAccessible::Value, "7");
+  Type(Window.F5, Qt::Key_Return);
+  EXPECT_EQ(Window.State.game.Players[1].Name, "José");
+  EXPECT_EQ(Window.State.game.Players[1].Settlements, 7);
 }
 
 TEST_F(Input, MarksFollowTheModel) {

@@ -1,5 +1,8 @@
-// While the main window is locked nothing reaches it: no shortcut, click, menu or close box. It does not look greyed.
+// While the main window is locked nothing reaches it: no shortcut, click, menu or close box. It does not look greyed,
+// and the keyboard is where the next key counts.
 #include <QMenuBar>
+#include <QMessageBox>
+#include <QSignalSpy>
 
 #include "real_windows.h"
 
@@ -28,6 +31,49 @@ TEST_F(Lock, KeepsKeysAndMouseOutAndDoesNotLookGreyed) {
   EXPECT_FALSE(WindowOf(Window.F7).isVisible());
   Type(Window.F1, Qt::Key_F9);
   EXPECT_EQ(Window.State.game.TotalRolls, 1);
+}
+
+TEST_F(Lock, AClickThatTookTheKeyboardGivesItBack) {
+  platform::qt::FormWindow& main = WindowOf(Window.F1);
+  Window.F7.PrepareDiceDialog();
+  Click(Window.F1.picWurfel(0));
+  main.activateWindow();  // as a compositor does, after the click
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&WindowOf(Window.F7)));
+  QMessageBox box(&main);
+  box.open();
+  main.activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&box));
+}
+
+TEST_F(Lock, WhatTakesTheDialogsPlaceGetsTheKeyboardDirectly) {
+  core::Game& game = Window.State.game;
+  game.GameType = core::kFirstExpansion;
+  game.EventCount[core::kShipFace] = 6;
+  game.WinPoints = 2;
+  Window.F11.ShowAttack();  // stays open
+  const std::tuple<std::function<void()>, const platform::Form*, const char*, const platform::Form*> rows[] = {
+      {[&] { Window.F7.PrepareDiceDialog(); }, &Window.F7, "43B", &Window.F11},
+      {[&] { Window.F8.OpenSettings(); }, &Window.F8, "\r", &Window.F9},
+      {[&] { Window.F20.OpenNewGame(); }, &Window.F20, "\r", &Window.F9}};
+  for (const auto& [open, dialog, keys, next] : rows) {
+    open();
+    Window.F20.txtneuSPBed.Text = "2";
+    Window.F20.SetFocus(Window.F20.cmdStart);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&WindowOf(*dialog)));
+    QSignalSpy focus(qApp, &QGuiApplication::focusWindowChanged);
+    for (const char* key = keys; *key; ++key) Type(*dialog, *key == '\r' ? Qt::Key_Return : Qt::Key(*key));
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(WindowOf(*next).isActiveWindow()) << dialog->Name;
+    EXPECT_FALSE(focus.contains(QVariantList{QVariant::fromValue(WindowOf(Window.F1).windowHandle())}));
+    Window.F9.PressCloseBox();
+  }
+}
+
+TEST_F(Lock, ADialogOpensOverTheMainWindowWhereItStandsNow) {
+  WindowOf(Window.F1).move(150, 90);
+  Window.F7.PrepareDiceDialog();
+  const QPoint off = WindowOf(Window.F7).frameGeometry().center() - WindowOf(Window.F1).frameGeometry().center();
+  EXPECT_LE(off.manhattanLength(), 40);
 }
 
 }  // namespace
