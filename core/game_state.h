@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "texts.h"
 
@@ -21,9 +22,8 @@ inline constexpr int kHighestSum = 12;
 inline constexpr int kEventFaces = 4;
 inline constexpr int kShipFace = 4;       ///< the face of the event die that brings the barbarians nearer
 inline constexpr int kLoggedRolls = 500;  ///< entries 1 to 500 of the log
-inline constexpr int kTexts = 118;        ///< texts 1 to 118 of a language
+inline constexpr int kTexts = 118;        ///< texts 1 to 118, which every language has
 inline constexpr int kTextRoom = 200;
-inline constexpr int kLanguageRoom = 10;  ///< languages that can be listed
 
 /// The kind of game; its number is the victory points with which a player starts. Files may bring others.
 inline constexpr std::int16_t kBaseGame = 2;
@@ -139,8 +139,8 @@ struct Entry {
 };
 
 struct Language {
-  Numbered<std::string, kTextRoom + 1> Text;           ///< 1 to 118 are filled
-  Numbered<std::string, kLanguageRoom + 1> Languages;  ///< 0 the chosen one, 1 to 10 the file's
+  Numbered<std::string, kTextRoom + 1> Text;
+  std::vector<std::string> Languages{kNoLanguageYet};  ///< 0 the chosen one, from 1 on the file's
 };
 
 struct State {

@@ -1,5 +1,6 @@
 // The texts of a language by name. The number is the line of the text in its block of the language file, so it never
-// changes; a new text gets the next one.
+// changes; a new text gets the next one. A block may end with text 118: storage/language_file says what stands for the
+// texts that it lacks.
 #pragma once
 
 namespace core::text {
@@ -123,6 +124,29 @@ enum Number {
   ShowTurnTime = 116,
   StrongContrast = 117,
   MenuRollDice = 118,
+  LanguageCode = 119,  ///< as in "pt_BR": whose catalogue of the toolkit goes with the language
+  ToolkitWords = 120,  ///< to 160: the words of the toolkit's boxes and dialogs, in the order of platform::Word
+  NoSuchFolder = 146,  ///< one of these, said by the program as well
+  GameNotSaved = 161,  ///< failures, behind which a file or a printer is named
+  GameNotRead = 162,
+  GameNotPrinted = 163,
+  SettingsNotSaved = 164,
+  NoLanguages = 165,
+  LanguageIncomplete = 166,
+  NoRoom = 167,  ///< their causes, beside NoSuchFolder
+  NotAllowed = 168,
+  NotAFile = 169,
+  DiskFails = 170,
+  CopiesFolder = 171,
+  LastSixToolTip = 172,
+  BlackDie = 173,
+  RedDie = 174,
+  ClockRuns = 175,          ///< the reason for keeping the screen on
+  CharacterRefused = 176,   ///< the character stands behind it
+  TextGoesOn = 177,         ///< of a file that is too long to be shown whole
+  RollAfterOne = 178,       ///< behind a count of one
+  RollsAfterNumber = 179,   ///< behind any other count
+  PlayersAfterNumber = 180  ///< behind how many play
 };
 
 }  // namespace core::text

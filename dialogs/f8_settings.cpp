@@ -1,5 +1,6 @@
 #include "f8_settings.h"
 
+#include <span>
 #include <utility>
 
 #include "../core/new_game.h"
@@ -140,10 +141,7 @@ void F8::ShowHotkeys() {
 
 void F8::ListLanguages() {
   comSelectLang.Clear();
-  for (int i = 1; i <= core::kLanguageRoom; ++i) {
-    const std::string& name = state().language.Languages[i];
-    if (!name.empty()) comSelectLang.AddItem(name);
-  }
+  for (const std::string& name : std::span(state().language.Languages).subspan(1)) comSelectLang.AddItem(name);
 }
 
 void F8::SetCaptions() {
