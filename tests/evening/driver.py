@@ -65,9 +65,11 @@ class Screen(contextlib.ExitStack):
 class XScreen(Screen):
     """An X server with a window manager. Keys have the names of xdotool; a number is a key by its place."""
 
+    size = "1280x900"  # pixels
+
     def open(self):
         ready, tell = os.pipe()
-        self.start("Xvfb", "-displayfd", str(tell), "-screen", "0", "1280x900x24", "-fbdir", str(self.folder),
+        self.start("Xvfb", "-displayfd", str(tell), "-screen", "0", f"{self.size}x24", "-fbdir", str(self.folder),
                    "-ardelay", "300", "-arinterval", "25", "-noreset", "-nolisten", "tcp",
                    pass_fds=[tell], stderr=subprocess.DEVNULL)
         os.close(tell)
