@@ -6,9 +6,9 @@
 #include "windows/image_lists.h"
 
 int main(int, char** arguments) {
-  platform::qt::Application application(arguments[0], "Orvan Begleiter",
-                                        {windows::kProgramIcon, windows::kSmallProgramIcon});
-  platform::qt::QtServices services;
+  platform::qt::Application application(
+      arguments[0], {"Orvan Begleiter", "orvanbeg", windows::kProgramIcon, windows::kSmallProgramIcon});
+  platform::qt::QtServices services({ORVANBEG_VERSION_MAJOR, ORVANBEG_VERSION_MINOR, ORVANBEG_VERSION_REVISION});
   mainwindow::MainWindow window(services);
   platform::qt::Shell shell(window.Desktop, window.F1);
   if (window.Load() != mainwindow::Started::Yes) return 1;

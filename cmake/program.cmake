@@ -2,9 +2,6 @@
 file(GLOB ORVANBEG_QT_SOURCES CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/platform/qt/*.cpp)
 add_library(platform_qt STATIC ${ORVANBEG_QT_SOURCES})
 target_link_libraries(platform_qt PUBLIC platform Qt6::Widgets Qt6::PrintSupport Qt6::Svg Qt6::DBus)
-target_compile_definitions(platform_qt PRIVATE
-  ORVANBEG_VERSION_MAJOR=${PROJECT_VERSION_MAJOR} ORVANBEG_VERSION_MINOR=${PROJECT_VERSION_MINOR}
-  ORVANBEG_VERSION_REVISION=${PROJECT_VERSION_PATCH})
 
 # The artwork that the forms hold is compiled in, under its path below resources/.
 file(GLOB ORVANBEG_ARTWORK RELATIVE ${CMAKE_SOURCE_DIR}/resources CONFIGURE_DEPENDS
@@ -20,6 +17,9 @@ add_library(artwork OBJECT ${ORVANBEG_ARTWORK_SOURCE})
 
 add_executable(orvanbeg main.cpp)
 target_link_libraries(orvanbeg PRIVATE mainwindow platform_qt artwork)
+target_compile_definitions(orvanbeg PRIVATE
+  ORVANBEG_VERSION_MAJOR=${PROJECT_VERSION_MAJOR} ORVANBEG_VERSION_MINOR=${PROJECT_VERSION_MINOR}
+  ORVANBEG_VERSION_REVISION=${PROJECT_VERSION_PATCH})
 
 # What stands beside the executable is copied whenever it changes.
 file(GLOB_RECURSE ORVANBEG_RUN_FILES CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/run/*)

@@ -54,6 +54,7 @@ F4::F4(const windows::Context& context)
       lblFTaste(this, "lblFTaste", kKeys),
       cmdNix(this, "cmdNix", kNixPlace) {
   KeyPreview = true;
+  PressesFocusedButtons = false;
   KeyUp = [this](int keyCode, platform::Modifiers) { F4_Form_KeyUp(keyCode); };
   for (int action = kFirstAction; action <= kLastAction; ++action) {
     cmdSP(action).Click = [this, action] { F4_cmdSP_Click(action); };

@@ -42,6 +42,7 @@ F7::F7(const windows::Context& context)
       cmdNoOK(this, "cmdNoOK", kNoOkPlace),
       cmdOK(this, "cmdOK", kOkPlace) {
   KeyPreview = true;
+  PressesFocusedButtons = false;
   Caption = "Würfeln";
   cmdNoOK.Caption = "Abbruch (Esc)";
   cmdNoOK.Cancel = true;

@@ -113,7 +113,7 @@ class MainWindow : public core::Screen, private storage::GameFileEvents {
   void SaveSettings();
   void LoadGame();
   void SaveGame();
-  bool ChooseFile(int titleText, std::string filter, int flags);
+  bool ChooseFile(int titleText, std::string filter, bool opens);
 
   bool LoadThemeImages(int theme);
 

@@ -7,12 +7,11 @@
 #include "../storage/game_file_reader.h"
 #include "../storage/regular_file.h"
 #include "../storage/settings_file.h"
+#include "../windows/dialog.h"
 #include "main_window.h"
 
 namespace mainwindow {
 namespace {
-
-using platform::FileDialog;
 
 constexpr int kOpenTitle = 3;
 constexpr int kSaveTitle = 4;
@@ -22,23 +21,24 @@ constexpr const char* kAllFiles = " (*.*)|*.*";
 }  // namespace
 
 /// Shows the file dialog; false if no file was chosen.
-bool MainWindow::ChooseFile(int titleText, std::string filter, int flags) {
+bool MainWindow::ChooseFile(int titleText, std::string filter, bool opens) {
   cmdLS_.Filter = std::move(filter);
   cmdLS_.InitDir = context_.Places().FirstFolder().string();
   cmdLS_.DialogTitle = platform::WithoutMnemonic(State.Text(titleText));
-  cmdLS_.Flags = flags;
+  cmdLS_.OpensFile = opens;
+  cmdLS_.NoSuchFolder = windows::kNoSuchFolder;
   return services_.ChooseFile(cmdLS_) && !cmdLS_.FileName.empty();
 }
 
 void MainWindow::SaveGame() {
   const std::string filter = State.Text(109) + kGameFiles;
-  if (!ChooseFile(kSaveTitle, filter, FileDialog::kAskBeforeOverwriting | FileDialog::kPathMustExist)) return;
+  if (!ChooseFile(kSaveTitle, filter, false)) return;
   storage::WriteWhole(cmdLS_.FileName, storage::GameFileText(State));
 }
 
 void MainWindow::LoadGame() {
   const std::string filter = State.Text(109) + kGameFiles + "|" + State.Text(110) + kAllFiles;
-  if (!ChooseFile(kOpenTitle, filter, FileDialog::kFileMustExist)) return;
+  if (!ChooseFile(kOpenTitle, filter, true)) return;
   std::ifstream file = storage::OpenRegularFile(cmdLS_.FileName);
   if (!file.is_open() || storage::ReadGame(file, State, *this) != storage::GameFileOutcome::Whole) return;
   ShowPlayerPanels();

@@ -68,7 +68,7 @@ void MainWindow::SetCaptions() {
 /// The clock has been started or stopped: while it runs somebody looks at it, though keyboard and mouse may rest long.
 void MainWindow::FollowClock() {
   (*F1.MenuBar)["mnuExtraClock"].Caption = State.Text(State.game.ClockRunning ? 111 : 112);
-  services_.KeepScreenAwake(State.game.ClockRunning);
+  services_.KeepScreenAwake(State.game.ClockRunning, "The clock of the game is running");
 }
 
 }  // namespace mainwindow

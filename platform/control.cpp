@@ -11,11 +11,12 @@ Control::Control(Container* parent, std::string name, Place place)
   if (parent_) parent_->controls_.push_back(this);
 }
 
-Form* Control::Owner() {
-  Control* top = this;
-  while (top->parent_) top = top->parent_;
-  return dynamic_cast<Form*>(top);
+const std::vector<Control*>& Control::Controls() const {
+  static const std::vector<Control*> kNone;
+  return kNone;
 }
+
+Form* Control::Owner() { return parent_ ? parent_->Owner() : nullptr; }
 
 bool Control::Usable() const {
   for (const Control* control = this; control->parent_; control = control->parent_) {

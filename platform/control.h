@@ -1,5 +1,5 @@
-// What every control of a form has: a name, a place in twips, whether it shows and can be used, a tooltip, a font; and
-// containers, which hold controls. The concrete kinds stand in controls.h.
+// What every control of a form has: a name, a place in twips, whether it is shown and can be used, a tooltip, a font,
+// and what it does with the user's input. Containers hold other controls. The kinds of control are in controls.h.
 #pragma once
 
 #include <functional>
@@ -14,7 +14,6 @@
 namespace platform {
 
 class Container;
-class ControlVisitor;
 class Form;
 
 class Control : public PropertyOwner {
@@ -34,30 +33,43 @@ class Control : public PropertyOwner {
 
   /// A key was released while this control had the focus.
   std::function<void(KeyCode, Modifiers)> KeyUp;
+  /// A mouse button was released over the control on which it was pressed.
+  std::function<void(MouseButton)> MouseUp;
 
   Container* Parent() const { return parent_; }
-  /// The form on which the control lies, however deep; null only while the form itself is being made.
-  Form* Owner();
-  /// Visible and enabled, and all containers up to the form too; the form's own state is not looked at.
+  /// The controls that this one holds; none unless it is a container.
+  virtual const std::vector<Control*>& Controls() const;
+  /// The form that holds the control, directly or in a container; null only while that form is being made.
+  virtual Form* Owner();
+  /// Whether it is visible and enabled and so are all its containers. The form itself does not count.
   bool Usable() const;
 
+  // The rest is called by the form, for usable controls only.
   virtual bool TakesFocus() const { return false; }
-  /// The user clicks the control; forms call this for a usable control only.
   virtual void UserClick() {}
-  virtual void Accept(ControlVisitor& visitor) = 0;
+  /// The user has edited the text of a field, which is now `text`.
+  virtual void UserType(const std::string&) {}
+  /// Whether the key clicks this control wherever the focus is: a default button for Enter, a cancel button for Esc.
+  virtual bool IsClickedBy(KeyCode) const { return false; }
+  /// Whether Enter clicks the control while it has the focus.
+  virtual bool TakesEnter() const { return false; }
+  /// Whether Tab passes by, because it stops at another control of the same group.
+  virtual bool TabPassesBy() const { return false; }
+  /// Where the arrow keys go from here within a group of controls; null outside of such a group. `step` is 1 or -1.
+  virtual Control* GroupNeighbour(int) { return nullptr; }
 
-  /// Tells the form's view; kinds with effects of their own extend it.
+  /// Reports the change to the form's view; kinds with effects of their own extend it.
   void PropertyChanged(Aspect aspect) override;
 
  private:
   Container* parent_;
 };
 
-/// A control that holds others, in the order of their making, which is the tab order too.
+/// A control that holds others. Their order, which is also the tab order, is that in which they were made.
 class Container : public Control {
  public:
   using Control::Control;
-  const std::vector<Control*>& Controls() const { return controls_; }
+  const std::vector<Control*>& Controls() const override { return controls_; }
 
  private:
   friend class Control;

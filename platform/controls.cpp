@@ -1,5 +1,6 @@
 #include "controls.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace platform {
@@ -7,6 +8,13 @@ namespace platform {
 void TextBox::PropertyChanged(Aspect aspect) {
   Control::PropertyChanged(aspect);
   if (aspect == Aspect::Text && Change) Change();
+}
+
+void TextBox::UserType(const std::string& text) {
+  if (ReadOnly) return;
+  Text = Filter ? Filter(text) : text;
+  // What the filter has removed is still in the widget.
+  if (Text.Get() != text) Control::PropertyChanged(Aspect::Text);
 }
 
 void CheckBox::PropertyChanged(Aspect aspect) {
@@ -20,6 +28,28 @@ void OptionButton::UserClick() {
   } else if (Click) {
     Click();
   }
+}
+
+std::vector<OptionButton*> OptionButton::Group() const {
+  std::vector<OptionButton*> group;
+  for (Control* control : Parent()->Controls()) {
+    auto* sibling = dynamic_cast<OptionButton*>(control);
+    if (sibling && sibling->Usable()) group.push_back(sibling);
+  }
+  return group;
+}
+
+bool OptionButton::TabPassesBy() const {
+  const std::vector<OptionButton*> group = Group();
+  return !Value &&
+         std::any_of(group.begin(), group.end(), [](const OptionButton* option) { return option->Value.Get(); });
+}
+
+Control* OptionButton::GroupNeighbour(int step) {
+  const std::vector<OptionButton*> group = Group();
+  const auto count = static_cast<std::ptrdiff_t>(group.size());
+  const auto at = std::find(group.begin(), group.end(), this) - group.begin();
+  return group[static_cast<std::size_t>((at + step + count) % count)];
 }
 
 void OptionButton::PropertyChanged(Aspect aspect) {
@@ -67,15 +97,5 @@ void ToolBar::SetToolTip(int index, std::string text) {
   toolTips_.at(static_cast<std::size_t>(index - 1)) = std::move(text);
   PropertyChanged(Aspect::ToolTip);
 }
-
-void Label::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
-void CommandButton::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
-void TextBox::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
-void CheckBox::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
-void OptionButton::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
-void ComboBox::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
-void Frame::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
-void PictureBox::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
-void ToolBar::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
 
 }  // namespace platform

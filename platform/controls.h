@@ -1,6 +1,6 @@
-// The kinds of control that the forms are made of. Setting a property from code has the same effects as the user's
-// hand: a check box whose value changes runs its click, a text that changes runs its change, an option button that is
-// set clears its siblings.
+// The kinds of control that forms are made of. Setting a property from code has the same effects as user input: a check
+// box whose value changes runs its click, a text that changes runs its change, an option button that is set clears its
+// siblings.
 #pragma once
 
 #include <functional>
@@ -22,7 +22,6 @@ class Label : public Control {
   using Control::Control;
   Property<std::string> Caption{*this, Aspect::Caption};
   Alignment Align = Alignment::Left;
-  void Accept(ControlVisitor& visitor) override;
 };
 
 /// A button with a caption, a picture or both, the picture above the caption.
@@ -31,15 +30,18 @@ class CommandButton : public Control {
   using Control::Control;
   Property<std::string> Caption{*this, Aspect::Caption};
   Property<Picture> Image{*this, Aspect::Picture};
-  bool Default = false;  ///< the Enter key clicks it, while it can be used
-  bool Cancel = false;   ///< the Esc key clicks it, while it can be used
+  bool Default = false;  ///< Enter clicks it
+  bool Cancel = false;   ///< Esc clicks it
   std::function<void()> Click;
 
   bool TakesFocus() const override { return true; }
   void UserClick() override {
     if (Click) Click();
   }
-  void Accept(ControlVisitor& visitor) override;
+  bool IsClickedBy(KeyCode code) const override {
+    return (Default && code == kKeyEnter) || (Cancel && code == kKeyEscape);
+  }
+  bool TakesEnter() const override { return true; }
 };
 
 class TextBox : public Control {
@@ -50,12 +52,12 @@ class TextBox : public Control {
   bool ReadOnly = false;
   bool MultiLine = false;
   std::function<void()> Change;
-  /// Makes of a text that the user has typed what the field takes; none: all.
+  /// Turns what the user has typed into what the field accepts. Unset: everything is accepted.
   std::function<std::string(const std::string&)> Filter;
 
   bool TakesFocus() const override { return true; }
+  void UserType(const std::string& text) override;
   void PropertyChanged(Aspect aspect) override;
-  void Accept(ControlVisitor& visitor) override;
 };
 
 class CheckBox : public Control {
@@ -68,7 +70,6 @@ class CheckBox : public Control {
   bool TakesFocus() const override { return true; }
   void UserClick() override { Value = 1 - Value; }
   void PropertyChanged(Aspect aspect) override;
-  void Accept(ControlVisitor& visitor) override;
 };
 
 /// One of several in its container, of which at most one is set.
@@ -78,12 +79,16 @@ class OptionButton : public Control {
   Property<std::string> Caption{*this, Aspect::Caption};
   Property<bool> Value{*this, Aspect::Value};
   std::function<void()> Click;  ///< the button has become the one that is set, or was clicked while it was
-  std::function<void(MouseButton)> MouseUp;
 
   bool TakesFocus() const override { return true; }
   void UserClick() override;
+  bool TabPassesBy() const override;
+  Control* GroupNeighbour(int step) override;
   void PropertyChanged(Aspect aspect) override;
-  void Accept(ControlVisitor& visitor) override;
+
+ private:
+  /// The usable option buttons among which only one can be set.
+  std::vector<OptionButton*> Group() const;
 };
 
 /// A list with a field into which text can be typed as well.
@@ -99,12 +104,12 @@ class ComboBox : public Control {
   /// Empties the list and the text.
   void Clear();
   void AddItem(std::string item);
-  /// The user picks an entry; an index outside the list does nothing. The view calls it through the form.
+  /// The user picks an entry. An index outside the list does nothing.
   void Pick(int index);
 
   bool TakesFocus() const override { return true; }
+  void UserType(const std::string& text) override { Text = text; }
   void PropertyChanged(Aspect aspect) override;
-  void Accept(ControlVisitor& visitor) override;
 
  private:
   std::vector<std::string> list_;
@@ -114,24 +119,20 @@ class Frame : public Container {
  public:
   using Container::Container;
   Property<std::string> Caption{*this, Aspect::Caption};
-  void Accept(ControlVisitor& visitor) override;
 };
 
-/// A picture or a picture surface: a background picture, and what was drawn over it. Unscaled, from the top left.
+/// A background picture, unscaled from the top left, with a drawing over it.
 class PictureBox : public Control {
  public:
   PictureBox(Container* parent, std::string name, Place place);
   Property<Picture> Image{*this, Aspect::Picture};
   Surface Drawing;               ///< in pixels of the box
   int Border = 0;                ///< width of the frame inside the place, in pixels; 2 is drawn sunken
-  bool Opaque = true;            ///< false: what lies behind shows through
-  std::optional<Colour> Ground;  ///< seen where the picture is not; none: the desktop's own
-  std::function<void(MouseButton)> MouseUp;
-
-  void Accept(ControlVisitor& visitor) override;
+  bool Opaque = true;            ///< false: what is behind it shows through
+  std::optional<Colour> Ground;  ///< colour around the picture; none: that of the desktop
 };
 
-/// The bar under the menu: pictures that answer a click with their index, from 1; an entry without picture separates.
+/// The bar below the menu. A click on a picture reports its index, from 1; an entry without picture is a separator.
 class ToolBar : public Control {
  public:
   ToolBar(Container* parent, std::string name, Place place, std::vector<Picture> pictures);
@@ -141,29 +142,13 @@ class ToolBar : public Control {
   const Picture& Image(int index) const { return pictures_.at(index - 1); }
   const std::string& ToolTip(int index) const { return toolTips_.at(index - 1); }
   void SetToolTip(int index, std::string text);
-  void Accept(ControlVisitor& visitor) override;
 
  private:
   std::vector<Picture> pictures_;
   std::vector<std::string> toolTips_;
 };
 
-/// Visits a control as what it is; a view builds its widgets with it.
-class ControlVisitor {
- public:
-  virtual ~ControlVisitor() = default;
-  virtual void Visit(Label&) = 0;
-  virtual void Visit(CommandButton&) = 0;
-  virtual void Visit(TextBox&) = 0;
-  virtual void Visit(CheckBox&) = 0;
-  virtual void Visit(OptionButton&) = 0;
-  virtual void Visit(ComboBox&) = 0;
-  virtual void Visit(Frame&) = 0;
-  virtual void Visit(PictureBox&) = 0;
-  virtual void Visit(ToolBar&) = 0;
-};
-
-/// Controls of one kind and name, told apart by an index, which starts where the array says.
+/// Controls of one kind and name with consecutive indexes.
 template <typename T>
 class ControlArray {
  public:

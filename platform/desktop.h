@@ -1,5 +1,5 @@
-// The forms of the program side by side: in which order they were opened, which may take input while another is modal,
-// and whose a key is that still reaches the window below because the new window has not got the keyboard yet.
+// All forms of the program: in which order they were opened, which one is modal, and which one gets a key that arrives
+// at the window below because a new window does not have the keyboard yet.
 #pragma once
 
 #include <functional>
@@ -13,8 +13,8 @@ class Form;
 
 class Desktop {
  public:
-  /// Called for each form that shows, hides or changes its lock (`Focus`: is to come to the front), after the model has
-  /// taken note; a view sets it.
+  /// Set by a view. Called when a form was shown, hidden, enabled or disabled, and with `Focus` when it has to come to
+  /// the front.
   std::function<void(Form&, Aspect)> OnChange;
 
   void Add(Form& form);
@@ -22,22 +22,21 @@ class Desktop {
   void FormChanged(Form& form, Aspect aspect);
   const std::vector<Form*>& Forms() const { return forms_; }
 
-  /// False while another form is modal.
-  bool Lets(const Form& form) const { return !modal_ || modal_ == &form; }
+  /// Whether another form is modal.
+  bool IsBlocked(const Form& form) const { return modal_ && modal_ != &form; }
   void SetModal(Form* form) { modal_ = form; }
 
-  /// A form that is shown already comes before the others.
+  /// Puts a form that is already shown before the others.
   void BringToFront(Form& form);
-  /// The form opened last that takes input; null if none does.
+  /// The form opened last among those that take input; null if none does.
   Form* Front() const;
 
-  /// The window system gave this form the keyboard.
+  /// The window system has given this form the keyboard.
   void Activated(Form& form);
 
-  /// Whose a key is that arrived at the window of `form`: its own while it takes input; else that of a form that was
-  /// shown or unlocked just now and has not had the keyboard since, so that quick typing loses no key; else nobody's
-  /// (null). A window that was hidden may still have the keyboard for a moment: its keys are those of the form in
-  /// front.
+  /// The form that gets a key which arrived at the window of `form`: `form` itself while it takes input, else the form
+  /// that was shown or enabled last if it has not had the keyboard yet, so that quick typing loses no key, else none
+  /// (null). A hidden window may keep the keyboard for a moment; its keys go to the form in front.
   Form* KeyReceiver(Form& form) const;
 
  private:

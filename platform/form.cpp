@@ -8,39 +8,17 @@
 namespace platform {
 namespace {
 
-void CollectFocusable(const Container& container, std::vector<Control*>& found) {
+void CollectFocusable(const Control& container, std::vector<Control*>& found) {
   for (Control* control : container.Controls()) {
     if (control->TakesFocus() && control->Usable()) found.push_back(control);
-    if (auto* inner = dynamic_cast<Container*>(control)) CollectFocusable(*inner, found);
+    CollectFocusable(*control, found);
   }
 }
 
-/// The usable option buttons among which only one can be set.
-std::vector<OptionButton*> GroupOf(const OptionButton& option) {
-  std::vector<OptionButton*> group;
-  for (Control* control : option.Parent()->Controls()) {
-    auto* sibling = dynamic_cast<OptionButton*>(control);
-    if (sibling && sibling->Usable()) group.push_back(sibling);
-  }
-  return group;
-}
-
-/// Of a group Tab stops at the button that is set; arrows reach the others.
-bool AnotherIsSet(const Control& control) {
-  const auto* option = dynamic_cast<const OptionButton*>(&control);
-  if (!option || option->Value) return false;
-  const std::vector<OptionButton*> group = GroupOf(*option);
-  return std::any_of(group.begin(), group.end(), [](const OptionButton* sibling) { return sibling->Value.Get(); });
-}
-
-using ButtonRole = bool CommandButton::*;
-
-CommandButton* FindButton(const Container& container, ButtonRole role) {
+Control* FindClickedBy(KeyCode code, const Control& container) {
   for (Control* control : container.Controls()) {
-    auto* button = dynamic_cast<CommandButton*>(control);
-    if (button && button->*role && button->Usable()) return button;
-    auto* inner = dynamic_cast<Container*>(control);
-    if (inner && (button = FindButton(*inner, role))) return button;
+    if (control->IsClickedBy(code) && control->Usable()) return control;
+    if (Control* inner = FindClickedBy(code, *control)) return inner;
   }
   return nullptr;
 }
@@ -69,7 +47,7 @@ void Form::Show() {
   }
 }
 
-bool Form::AcceptsInput() const { return Visible && Enabled && desktop_.Lets(*this); }
+bool Form::AcceptsInput() const { return Visible && Enabled && !desktop_.IsBlocked(*this); }
 
 void Form::PropertyChanged(Aspect aspect) {
   if (aspect == Aspect::Visible || aspect == Aspect::Enabled) {
@@ -88,7 +66,7 @@ void Form::KeyPress(KeyCode code, Modifiers with) {
   } else if (code == kKeyTab && !with.Control && !with.Alt) {
     MoveFocus(with.Shift ? -1 : 1);
   } else if (code >= kKeyLeft && code <= kKeyDown) {
-    MoveOption(code == kKeyLeft || code == kKeyUp ? -1 : 1);
+    MoveInGroup(code == kKeyLeft || code == kKeyUp ? -1 : 1);
   }
 }
 
@@ -109,22 +87,16 @@ void Form::RouteRelease(KeyCode code, Modifiers with) {
   if (!focus || !AcceptsInput()) return;
   if (focus->KeyUp) {
     focus->KeyUp(code, with);
-  } else if (code == kKeySpace && !KeyPreview) {
+  } else if (code == kKeySpace && PressesFocusedButtons) {
     focus->UserClick();
   }
 }
 
 bool Form::PressDialogKey(KeyCode code) {
-  CommandButton* button = ButtonFor(code);
+  Control* focus = code == kKeyEnter && PressesFocusedButtons ? Focus() : nullptr;
+  Control* button = focus && focus->TakesEnter() ? focus : FindClickedBy(code, *this);
   if (button) button->UserClick();
   return button != nullptr;
-}
-
-CommandButton* Form::ButtonFor(KeyCode code) const {
-  if (code == kKeyEscape) return FindButton(*this, &CommandButton::Cancel);
-  if (code != kKeyEnter) return nullptr;
-  auto* focused = KeyPreview ? nullptr : dynamic_cast<CommandButton*>(Focus());
-  return focused ? focused : FindButton(*this, &CommandButton::Default);
 }
 
 void Form::Click(Control& control) {
@@ -142,13 +114,7 @@ void Form::ClickTool(ToolBar& bar, int index) {
 }
 
 void Form::Type(Control& control, const std::string& text) {
-  if (!Takes(control)) return;
-  if (auto* box = dynamic_cast<TextBox*>(&control); box && !box->ReadOnly) {
-    box->Text = box->Filter ? box->Filter(text) : text;
-    // What the filter took away is still in the widget.
-    if (View && box->Text.Get() != text) View->ControlChanged(control, Aspect::Text);
-  }
-  if (auto* combo = dynamic_cast<ComboBox*>(&control)) combo->Text = text;
+  if (Takes(control)) control.UserType(text);
 }
 
 void Form::Pick(ComboBox& combo, int index) {
@@ -156,9 +122,7 @@ void Form::Pick(ComboBox& combo, int index) {
 }
 
 void Form::MouseUp(Control& control, MouseButton button) {
-  if (!Takes(control)) return;
-  if (auto* box = dynamic_cast<PictureBox*>(&control); box && box->MouseUp) box->MouseUp(button);
-  if (auto* option = dynamic_cast<OptionButton*>(&control); option && option->MouseUp) option->MouseUp(button);
+  if (Takes(control) && control.MouseUp) control.MouseUp(button);
 }
 
 void Form::PressCloseBox() {
@@ -168,7 +132,7 @@ void Form::PressCloseBox() {
 std::vector<Control*> Form::TabOrder() const {
   std::vector<Control*> order;
   CollectFocusable(*this, order);
-  std::erase_if(order, [this](Control* control) { return control != focus_ && AnotherIsSet(*control); });
+  std::erase_if(order, [this](Control* control) { return control != focus_ && control->TabPassesBy(); });
   return order;
 }
 
@@ -184,16 +148,13 @@ void Form::SetFocus(Control& control) {
   if (View) View->ControlChanged(control, Aspect::Focus);
 }
 
-/// Arrows walk along the option buttons of a group and set the one they come to.
-void Form::MoveOption(int step) {
-  auto* focused = dynamic_cast<OptionButton*>(Focus());
-  if (!focused) return;
-  const std::vector<OptionButton*> group = GroupOf(*focused);
-  const auto at = std::find(group.begin(), group.end(), focused) - group.begin();
-  const auto count = static_cast<std::ptrdiff_t>(group.size());
-  OptionButton& next = *group[static_cast<std::size_t>((at + step + count) % count)];
-  SetFocus(next);
-  next.Value = true;
+/// The arrow keys set the option button they come to.
+void Form::MoveInGroup(int step) {
+  Control* focus = Focus();
+  Control* next = focus ? focus->GroupNeighbour(step) : nullptr;
+  if (!next || next == focus) return;
+  SetFocus(*next);
+  next->UserClick();
 }
 
 void Form::MoveFocus(int step) {
@@ -203,6 +164,10 @@ void Form::MoveFocus(int step) {
   const auto count = static_cast<std::ptrdiff_t>(order.size());
   const auto next = ((at - order.begin()) + step + count) % count;
   SetFocus(*order[static_cast<std::size_t>(next)]);
+}
+
+Timer::Timer(Form& form, std::string name, int interval) : Name(std::move(name)), Interval(interval) {
+  form.Timers.push_back(this);
 }
 
 }  // namespace platform

@@ -1,11 +1,10 @@
-// A form: a window with its controls, and the way of every key and click to them. The routing lives here, so it holds
-// without any window: a view (or a test) hands in what the user does, and the form decides whom it reaches.
+// A form: a window with its controls, and the routing of keys and clicks to them. A view (or a test) hands in what the
+// user does; the form decides which control it reaches.
 //
-// Rules of the routing: a form that is hidden or disabled takes nothing, its shortcuts included. A key counts on its
-// release, and only in the form that saw its press; a key that is held counts once. Where a release opens or closes a
-// form, keys that went down after that key are the next form's, so that overlapping typing loses none; what was down
-// before stays without effect. A form that previews keys sees each release before the control in focus, and there Space
-// and Enter press no button but the default one.
+// The rules: a form that is hidden or disabled takes no input, not even its shortcuts. A key acts on its release, and
+// only in the form that saw its press; a key that is held acts once. Where a release opens or closes a form, keys that
+// went down after that key act in the next form, so that overlapping typing loses none; keys that were down before have
+// no effect. A form that previews keys sees each release before the control in focus.
 #pragma once
 
 #include <functional>
@@ -24,7 +23,7 @@ namespace platform {
 class Desktop;
 class Form;
 
-/// What shows a form; it follows the changes that the model tells it of and decides nothing.
+/// Shows a form. It is told of every change in the model and decides nothing.
 class FormView {
  public:
   virtual ~FormView() = default;
@@ -43,13 +42,14 @@ class Form : public Container {
   Property<std::string> Caption{*this, Aspect::Title};
   Property<Picture> Image{*this, Aspect::Picture};  ///< background of the client area
   Surface Drawing;                                  ///< the form's own surface, in twips
-  bool KeyPreview = false;
+  bool KeyPreview = false;                          ///< the form sees each key before the control in focus
+  bool PressesFocusedButtons = true;  ///< by Space and Enter; else these press the default and cancel button only
   const CloseBox HasCloseBox;
   std::unique_ptr<Menu> MenuBar;
-  std::vector<Timer*> Timers;    ///< those that live on the form
-  std::optional<Colour> Ground;  ///< seen where the background is not; none: the desktop's own
+  std::vector<Timer*> Timers;
+  std::optional<Colour> Ground;  ///< colour around the background; none: that of the desktop
   int MenuBarHeight = 0;         ///< twips that a menu bar adds above the client area
-  int FrameWidth = 0;            ///< twips that the window system adds; 0 until it has told
+  int FrameWidth = 0;            ///< twips that the window system adds; 0 before it has reported them
   int FrameHeight = 0;
   FormView* View = nullptr;
 
@@ -61,10 +61,10 @@ class Form : public Container {
   void MoveTo(int left, int top);  ///< twips from the screen's top left
   void Show();                     ///< in front of the others, even if it is visible already
 
-  /// Whether a key or click that comes now is the form's.
+  /// Whether the form takes keys and clicks now.
   bool AcceptsInput() const;
 
-  // What the user does; each is without effect while the form takes no input.
+  // What the user does. Nothing has an effect while the form takes no input.
   void KeyPress(KeyCode code, Modifiers with);
   void KeyRelease(KeyCode code, Modifiers with);
   void Click(Control& control);  ///< button, check box, option button
@@ -74,22 +74,21 @@ class Form : public Container {
   void Pick(ComboBox& combo, int index);
   void MouseUp(Control& control, MouseButton button);  ///< released over the control on which it was pressed
   void PressCloseBox();
-  /// The window lost the keyboard: a key still held will be released elsewhere.
+  /// The window has lost the keyboard: keys that are held will be released elsewhere.
   void ForgetKeys() { held_.clear(); }
 
-  /// The control in focus: the one last set while it can be used, else the first that can; null if there is none.
+  /// The control in focus: the one set last if it can be used, else the first that can; null if there is none.
   Control* Focus() const;
   void SetFocus(Control& control);
 
   void PropertyChanged(Aspect aspect) override;
-  void Accept(ControlVisitor&) override {}
+  Form* Owner() override { return this; }
 
  private:
   bool Takes(Control& control) const { return AcceptsInput() && control.Usable(); }
   void RouteRelease(KeyCode code, Modifiers with);
   bool PressDialogKey(KeyCode code);
-  void MoveOption(int step);
-  CommandButton* ButtonFor(KeyCode code) const;
+  void MoveInGroup(int step);
   void MoveFocus(int step);
   std::vector<Control*> TabOrder() const;
 

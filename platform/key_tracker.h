@@ -1,6 +1,6 @@
-// Tells a key that is held from one that is pressed again. Window systems repeat a held key as pairs of release and
-// press and mark them only in part; an unmarked repeat shows by its press, which follows its release at once after the
-// key was down for a while. So the release of such a key waits a moment before it counts.
+// Distinguishes a key that is held from one that is pressed again. Window systems repeat a held key as pairs of release
+// and press and mark only some of them. An unmarked repeat is recognised by its press, which follows its release
+// immediately. The release of a key that was held for some time therefore waits a moment before it counts.
 #pragma once
 
 #include <chrono>

@@ -12,7 +12,7 @@
 
 namespace platform {
 
-/// One row of a menu's table. An entry of level 0 opens a menu, the rows of level 1 behind it are its entries.
+/// One row of a menu's table. A row of level 0 is a menu, the rows of level 1 after it are its entries.
 struct MenuRow {
   std::string_view Name;
   int Level = 1;
@@ -41,13 +41,13 @@ class MenuItem : public PropertyOwner {
 class Menu {
  public:
   explicit Menu(std::span<const MenuRow> rows);
-  /// Called with the entry whose caption has changed; a view sets it.
+  /// Set by a view. Called with the entry whose caption has changed.
   std::function<void(MenuItem&)> OnChange;
 
   /// The entry with this name; throws std::out_of_range if the table has none.
   MenuItem& operator[](std::string_view name);
   std::deque<MenuItem>& Items() { return items_; }
-  /// The entry that this key stands for, or null.
+  /// The entry with this shortcut, or null.
   MenuItem* Find(KeyCode code, Modifiers with);
 
  private:

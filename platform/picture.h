@@ -1,5 +1,4 @@
-// A picture is a name: of a drawing compiled into the program, or of a file. Whoever shows it knows how to find and
-// draw it; the model only says which one.
+// A picture by its name: a drawing that is compiled in, or a file.
 #pragma once
 
 #include <cstdio>
@@ -22,7 +21,7 @@ struct ImageList {
   int Count = 0;
   int Size = 0;  ///< width and height of each picture, in pixels
 
-  /// Picture number `index`; an empty picture for a number outside the list, which a game file can bring about.
+  /// Picture number `index`; an empty picture for a number outside the list, which may come from a game file.
   Picture Image(int index) const {
     if (index < 1 || index > Count) return {};
     char number[16];

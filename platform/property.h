@@ -1,12 +1,11 @@
-// A property of a control: a value that tells its control when it has changed. Assigning the value that it already
-// has is no change.
+// A property of a control: a value that reports its changes to its owner. Assigning an equal value is no change.
 #pragma once
 
 #include <utility>
 
 namespace platform {
 
-/// What of a control has changed; views and the controls themselves react by it.
+/// What has changed about a control.
 enum class Aspect {
   Visible,
   Enabled,
@@ -24,7 +23,7 @@ enum class Aspect {
   Spoken
 };
 
-/// Whoever owns properties hears of their changes here.
+/// Is told when one of its properties has changed.
 class PropertyOwner {
  public:
   virtual ~PropertyOwner() = default;

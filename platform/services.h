@@ -1,18 +1,17 @@
-// What the program needs of the machine beyond its windows, as one small interface: tests put one with scripted
-// answers in its place. All text is UTF-8.
+// What the program needs from the machine besides windows. Tests have an implementation with scripted answers. All text
+// is UTF-8.
 #pragma once
 
 #include <filesystem>
 #include <string>
 #include <vector>
 
-#include "file_dialog.h"
 #include "picture.h"
+#include "surface.h"
 
 namespace platform {
 
 class Form;
-class Surface;
 
 /// The three numbers of the program's version.
 struct Version {
@@ -25,29 +24,50 @@ enum class Buttons { Ok, YesNo };  ///< of YesNo, No is the default button
 enum class Icon { None, Critical };
 enum class Answer { Ok, Yes, No };
 
+/// The file dialog of a form. Its properties are set before it is shown; the name chosen last is kept for the next
+/// time.
+struct FileDialog {
+  std::string Filter;  ///< pairs of name and pattern, all separated by "|"
+  std::string InitDir;
+  std::string DialogTitle;
+  bool OpensFile = false;    ///< it opens a file that exists; else it saves one
+  std::string DefaultExt;    ///< added to a name typed without extension; empty: the name stays as typed
+  std::string NoSuchFolder;  ///< what is said of a folder that does not exist; its path is appended
+  std::string FileName;      ///< with its path; empty as long as none was chosen
+};
+
+/// A drawing for paper. Fonts have their size in points, pictures 96 pixels to an inch.
+struct Page {
+  double UnitsPerInch = 300;
+  double Width = 0;   ///< of the part of the sheet that is used, from its top left corner, in units. On smaller paper
+  double Height = 0;  ///< the page is scaled down
+  double TextRight = 0;  ///< no text reaches further, in units
+  Surface Drawing = {};
+};
+
 class Services {
  public:
   virtual ~Services() = default;
 
-  /// Asks or tells; returns when the user has answered. Nothing reaches a form meanwhile; timers go on. A box without
-  /// a title of its own bears the program's. A YesNo box that is closed otherwise answers No.
+  /// Shows a message box and waits for the answer. Forms take no input meanwhile; timers go on. Without a title the
+  /// box has the program's name. Closing a YesNo box answers No.
   virtual Answer MessageBox(const std::string& text, const std::string& title = {}, Buttons buttons = Buttons::Ok,
                             Icon icon = Icon::None) = 0;
 
-  /// Lets events come until the form is hidden; for the one form that is modal.
+  /// Handles events until the form is hidden. For modal forms.
   virtual void WaitWhileVisible(Form& form) = 0;
 
   /// Lets the user choose a file; false if none was chosen. `dialog.FileName` is the chosen one.
   virtual bool ChooseFile(FileDialog& dialog) = 0;
 
-  /// The installed printers by name, the system's default first; none where there is none.
+  /// The names of the installed printers, the system's default first.
   virtual std::vector<std::string> PrinterNames() = 0;
 
-  /// Prints a page, drawn in 1/300 inch from the top left of the sheet; false if the printer does not take it.
-  virtual bool Print(const std::string& printer, const Surface& page) = 0;
+  /// Prints a page; false if the printer does not take it.
+  virtual bool Print(const std::string& printer, const Page& page) = 0;
 
   /// The bytes of a PDF file that holds the page.
-  virtual std::string PdfOf(const Surface& page) = 0;
+  virtual std::string PdfOf(const Page& page) = 0;
 
   /// The version of the program.
   virtual Version ProgramVersion() = 0;
@@ -73,10 +93,11 @@ class Services {
   /// The system's decimal separator, "." or "," as a rule.
   virtual std::string DecimalSeparator() = 0;
 
-  /// Whether the screen stays on though nobody touches keyboard or mouse. Where the system cannot do that, it does not.
-  virtual void KeepScreenAwake(bool awake) = 0;
+  /// Keeps the screen on while nobody touches keyboard or mouse, where the system can do that. It is shown to the user
+  /// for which `reason`.
+  virtual void KeepScreenAwake(bool awake, const std::string& reason) = 0;
 
-  /// Ends the process in an orderly way once the current event is done. Status 0: all is well.
+  /// Ends the process after the current event. Status 0: success.
   virtual void Quit(int status) = 0;
 };
 

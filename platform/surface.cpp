@@ -6,8 +6,6 @@ namespace platform {
 
 void Surface::Cls() {
   steps_.clear();
-  CurrentX = 0;
-  CurrentY = 0;
   if (OnChange) OnChange();
 }
 
@@ -16,13 +14,9 @@ void Surface::Add(DrawingStep step) {
   if (OnChange) OnChange();
 }
 
-void Surface::Print(std::string text) { PrintAt(CurrentX, CurrentY, std::move(text)); }
-
 void Surface::PrintAt(double x, double y, std::string text) { PrintWithin(x, y, 0, std::move(text)); }
 
 void Surface::PrintWithin(double x, double y, double room, std::string text) {
-  CurrentX = x;
-  CurrentY = y;
   Add(TextStep{x, y, std::move(text), ForeColor, {FontName, FontSize, FontBold}, room});
 }
 

@@ -1,6 +1,5 @@
-// A picture surface: what was drawn since its last clear, kept as a list of drawing steps. Screen and printer replay
-// the list at their own resolution; tests read it. Coordinates are those of the surface (pixels, or twips where its
-// owner says so); nothing is drawn here.
+// A picture surface: the list of what was drawn since it was last cleared. Screen and printer replay the list at their
+// own resolution; tests read it. Coordinates are pixels, or twips where the owner of the surface says so.
 #pragma once
 
 #include <functional>
@@ -28,7 +27,7 @@ struct TextStep {
   std::string Text;
   Colour Ink;
   Font Face;
-  double Room = 0;  ///< units to the right that the text must not leave; 0: no limit
+  double Room = 0;  ///< greatest width in units; 0: no limit
   bool operator==(const TextStep&) const = default;
 };
 
@@ -38,8 +37,8 @@ struct LineStep {
   bool operator==(const LineStep&) const = default;
 };
 
-/// A box between two corners in any order. A filled one reaches up to the second corner without it, and is at least
-/// one unit wide and high, so that a bar without length still shows where it stands.
+/// A box between two corners in any order. A filled one excludes the second corner and is at least one unit wide and
+/// high, so that even a bar without length is seen.
 struct BoxStep {
   double X1 = 0, Y1 = 0, X2 = 0, Y2 = 0;
   Colour Ink;
@@ -62,18 +61,15 @@ class Surface {
   std::string FontName = "Verdana";
   double FontSize = 8.25;  ///< points
   bool FontBold = false;
-  double CurrentX = 0;
-  double CurrentY = 0;
 
-  /// Called after each change of what is drawn; the owner of the surface sets it.
+  /// Set by the owner of the surface. Called after each change.
   std::function<void()> OnChange;
 
-  /// Takes away all that was drawn. The background picture is the owner's and stays.
+  /// Removes everything drawn. The background picture belongs to the owner and stays.
   void Cls();
-  /// Writes a text at the current position in the current colour and font.
-  void Print(std::string text);
+  /// Writes a text in the current colour and font. The point is the top left of its cell.
   void PrintAt(double x, double y, std::string text);
-  /// Writes a text that must not reach further right than so many units: a longer one is written narrower there.
+  /// The same within `room` units: a longer text is written narrower.
   void PrintWithin(double x, double y, double room, std::string text);
   void Line(double x1, double y1, double x2, double y2, Colour ink);
   void Box(double x1, double y1, double x2, double y2, Colour ink);
@@ -81,7 +77,7 @@ class Surface {
   void PaintPicture(const Picture& picture, double x, double y);
 
   const std::vector<DrawingStep>& Steps() const { return steps_; }
-  /// All its texts in the order of their writing, for a screen reader; lines are told apart by ";".
+  /// All texts in the order of writing, for a screen reader, with "; " between lines.
   std::string Spoken() const;
 
  private:

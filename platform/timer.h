@@ -1,4 +1,4 @@
-// A timer of a form: it ticks as long as it is enabled, whether or not the form is shown or locked.
+// A timer of a form. It ticks while it is enabled, even if the form is hidden or disabled.
 #pragma once
 
 #include <functional>
@@ -18,12 +18,12 @@ class Timer : public PropertyOwner {
   Property<bool> Enabled{*this, Aspect::Enabled, true};
   std::function<void()> Tick;
 
-  /// Called when the timer is started or stopped; a view sets it.
+  /// Set by a view. Called when the timer is started or stopped.
   std::function<void()> OnChange;
   void PropertyChanged(Aspect) override {
     if (OnChange) OnChange();
   }
-  /// The interval has passed; a view calls it.
+  /// The interval has passed.
   void Elapsed() {
     if (Enabled && Tick) Tick();
   }

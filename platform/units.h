@@ -1,11 +1,11 @@
-// Lengths of forms: twips, fifteen to a pixel. A control keeps its place in twips; a view asks for pixels.
+// Lengths of forms in twips, fifteen to a pixel.
 #pragma once
 
 namespace platform {
 
 inline constexpr int kTwipsPerPixel = 15;
 
-/// The pixel nearest to a length or position given in twips.
+/// The nearest whole pixel.
 constexpr int ToPixels(int twips) {
   const int half = twips < 0 ? -kTwipsPerPixel / 2 : kTwipsPerPixel / 2;
   return (twips + half) / kTwipsPerPixel;

@@ -9,7 +9,6 @@
 namespace printing {
 namespace {
 
-using platform::FileDialog;
 using platform::Place;
 
 constexpr int kClientWidth = 5745;
@@ -69,8 +68,8 @@ void F10::F10_cmdPrintnow_Click() {
 }
 
 void F10::PrintGame() {
-  platform::Surface page;
-  DrawGameReport(state(), context_.services.DecimalSeparator(), page);
+  platform::Page page{.Width = kPageWidth, .Height = kPageHeight, .TextRight = kTextRight};
+  DrawGameReport(state(), context_.services.DecimalSeparator(), page.Drawing);
   if (current_ == kPdfEntry) {
     WritePdf(page);
   } else if (!context_.services.Print(current_, page)) {
@@ -79,10 +78,10 @@ void F10::PrintGame() {
 }
 
 /// Nothing happens where the user chooses no name.
-void F10::WritePdf(const platform::Surface& page) {
+void F10::WritePdf(const platform::Page& page) {
   pdfFile_.Filter = "PDF (*.pdf)|*.pdf";
   pdfFile_.DefaultExt = "pdf";
-  pdfFile_.Flags = FileDialog::kAskBeforeOverwriting | FileDialog::kPathMustExist;
+  pdfFile_.NoSuchFolder = windows::kNoSuchFolder;
   pdfFile_.InitDir = context_.Places().FirstFolder().string();
   pdfFile_.DialogTitle = Caption;
   if (!context_.services.ChooseFile(pdfFile_) || pdfFile_.FileName.empty()) return;

@@ -25,7 +25,7 @@ class F10 : public windows::Dialog {
  private:
   void ListPrinters();
   void PrintGame();
-  void WritePdf(const platform::Surface& page);
+  void WritePdf(const platform::Page& page);
   void TellFailure(const std::string& where);
   void F10_cmdPrintnow_Click();
 

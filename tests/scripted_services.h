@@ -58,12 +58,12 @@ class ScriptedServices : public platform::Services {
     return true;
   }
   std::vector<std::string> PrinterNames() override { return Printers; }
-  bool Print(const std::string& printer, const platform::Surface& page) override {
-    Printed = {printer, page};
+  bool Print(const std::string& printer, const platform::Page& page) override {
+    Printed = {printer, page.Drawing};
     return !PrinterFails;
   }
   /// A page of which only the number of its steps is told.
-  std::string PdfOf(const platform::Surface& page) override { return std::to_string(page.Steps().size()); }
+  std::string PdfOf(const platform::Page& page) override { return std::to_string(page.Drawing.Steps().size()); }
   platform::Version ProgramVersion() override { return Version; }
   bool CanShow(const platform::Picture& picture) override {
     return !MissingPictures.contains(picture.Name) && (picture.IsResource || exists(Folder / picture.Name));
@@ -74,7 +74,7 @@ class ScriptedServices : public platform::Services {
   std::filesystem::path DocumentsFolder() override { return Folder / "documents"; }
   std::string Today() override { return "22.11.2026"; }
   std::string DecimalSeparator() override { return Separator; }
-  void KeepScreenAwake(bool awake) override { ScreenAwake = awake; }
+  void KeepScreenAwake(bool awake, const std::string&) override { ScreenAwake = awake; }
   void Quit(int status) override { QuitStatus = status; }
 
  private:

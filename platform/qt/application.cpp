@@ -1,40 +1,42 @@
 #include "application.h"
 
-#include <QIcon>
+#include <QAccessibleWidget>
 #include <QLibraryInfo>
 #include <QLocale>
 
+#include "control_view.h"
 #include "convert.h"
-#include "fonts.h"
+#include "form_window.h"
 #include "pictures.h"
-#include "spoken_roles.h"
 
 namespace platform::qt {
-
 namespace {
 
-QIcon IconOf(const Application::Icon& icon) {
-  constexpr int kLargestSmall = 24;  // pixels
-  const QIcon drawing(":/" + ToQt(icon.Drawing.Name));
-  const QIcon smallDrawing(":/" + ToQt(icon.SmallDrawing.Name));
-  QIcon sizes;
-  for (const int size : {16, 24, 32, 48, 64, 128}) {
-    sizes.addPixmap((size <= kLargestSmall ? smallDrawing : drawing).pixmap(QSize(size, size), 1.0));
+/// Null for the toolkit's own widgets, which know their roles.
+QAccessibleInterface* InterfaceOf(const QString&, QObject* object) {
+  if (auto* window = dynamic_cast<FormWindow*>(object)) {
+    return new QAccessibleWidget(window, window->parentWidget() ? QAccessible::Dialog : QAccessible::Window);
   }
-  return sizes;
+  const auto* view = dynamic_cast<ControlView*>(object);
+  if (!view || view->SpokenRole() == QAccessible::NoRole) return nullptr;
+  return new QAccessibleWidget(&view->Widget(), view->SpokenRole());
 }
 
 }  // namespace
 
-Application::Application(char* programPath, const char* name, const Icon& icon)
-    : arguments_{programPath, nullptr}, application_(argumentCount_, arguments_) {
-  QApplication::setApplicationName(QString::fromUtf8(name));
-  QApplication::setDesktopFileName("orvanbeg");
+void SetLook() {
   QApplication::setStyle("Fusion");
-  QApplication::setFont(qt::ToQt(Font{}));
-  QApplication::setWindowIcon(IconOf(icon));
+  QApplication::setFont(ToQt(Font{}));
+  QAccessible::installFactory(InterfaceOf);
+}
+
+Application::Application(char* programPath, const ProgramIdentity& program)
+    : arguments_{programPath, nullptr}, application_(argumentCount_, arguments_) {
+  QApplication::setApplicationName(QString::fromUtf8(program.Name));
+  QApplication::setDesktopFileName(QString::fromUtf8(program.DesktopEntry));
+  QApplication::setWindowIcon(IconOf(program.Icon, program.SmallIcon));
   QApplication::setQuitOnLastWindowClosed(false);
-  InstallSpokenRoles();
+  SetLook();
   if (toolkitWords_.load(QLocale::system(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QApplication::installTranslator(&toolkitWords_);
   }

@@ -1,5 +1,5 @@
-// The Qt application as the program wants it: its name and icon, its look, and the toolkit's own words (the buttons of
-// message boxes) in the system's language.
+// The Qt application: the program's name and icon, its look, what screen readers call its windows, and the toolkit's
+// own words (the buttons of message boxes) in the system's language.
 #pragma once
 
 #include <QApplication>
@@ -9,16 +9,17 @@
 
 namespace platform::qt {
 
+struct ProgramIdentity {
+  const char* Name = "";          ///< as titles show it, UTF-8
+  const char* DesktopEntry = "";  ///< file name of the desktop entry, without extension
+  Picture Icon;
+  Picture SmallIcon;  ///< for title bars and lists, of fewer strokes
+};
+
 class Application {
  public:
-  struct Icon {
-    Picture Drawing;
-    Picture SmallDrawing;  ///< for title bars and lists, of fewer strokes
-  };
-
-  /// `name` of the program as titles show it. The command line is not read.
-  Application(char* programPath, const char* name, const Icon& icon);
-
+  /// The command line is not read.
+  Application(char* programPath, const ProgramIdentity& program);
   ~Application();
 
   /// Runs until the program quits; its status.
@@ -30,5 +31,8 @@ class Application {
   QApplication application_;
   QTranslator toolkitWords_;
 };
+
+/// Sets the style and the font of all widgets, and what screen readers call them. Once, when there is an application.
+void SetLook();
 
 }  // namespace platform::qt

@@ -2,12 +2,12 @@
 
 #include <QCloseEvent>
 #include <QMenu>
+#include <QPaintEvent>
+#include <QPainter>
 #include <QScreen>
 
 #include "convert.h"
-#include "fonts.h"
 #include "key_codes.h"
-#include "shortcut_text.h"
 
 namespace platform::qt {
 namespace {
@@ -21,20 +21,29 @@ Qt::WindowFlags FlagsFor(const Form& form, bool isDialog) {
 
 }  // namespace
 
+ClientWidget::ClientWidget(Form& form, QWidget* parent) : DrawnWidget(form.Drawing, kInTwips, parent), form_(form) {
+  setAttribute(Qt::WA_OpaquePaintEvent, form.Ground.has_value());
+}
+
+void ClientWidget::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  Paint(painter, event->region(), form_.Ground ? std::optional(ToQt(*form_.Ground)) : std::nullopt, form_.Image);
+}
+
 FormWindow::FormWindow(Form& form, QWidget* owner)
     : QWidget(owner, FlagsFor(form, owner != nullptr)), form_(form), client_(new ClientWidget(form, this)) {
   setObjectName(ToQt(form.Name));
-  setFont(qt::ToQt(Font{}));
+  setFont(ToQt(Font{}));
   if (form_.MenuBar) BuildMenuBar();
   const int menuHeight = menuBar_ ? menuBar_->height() : 0;
   form_.MenuBarHeight = menuHeight * kTwipsPerPixel;
   const QSize size = ToQt(form_.Position.Get()).size();
-  // So that a menu has where to give the focus back.
+  // A menu that closes needs a widget for the focus to return to.
   if (menuBar_) client_->setFocusPolicy(Qt::ClickFocus);
   client_->setGeometry(0, menuHeight, size.width(), size.height());
   setFixedSize(size.width(), size.height() + menuHeight);
-  widgets_.Build(form_, client_);
-  // Said before the native window is made, else the window manager finds a place of its own.
+  MakeViews(form_, client_);
+  // Before the native window is made; otherwise the window manager chooses the place.
   if (!owner) move(ToPixels(form_.Position.Get().Left), ToPixels(form_.Position.Get().Top));
   form_.View = this;
   FormChanged(Aspect::Title);
@@ -43,6 +52,20 @@ FormWindow::FormWindow(Form& form, QWidget* owner)
 FormWindow::~FormWindow() {
   form_.View = nullptr;
   if (form_.MenuBar) form_.MenuBar->OnChange = nullptr;
+}
+
+void FormWindow::MakeViews(const Control& container, QWidget* parent) {
+  for (Control* control : container.Controls()) {
+    ControlView* view = MakeView(*control, parent);
+    views_.insert(control, view);
+    view->UpdateAll();
+    MakeViews(*control, &view->Widget());
+  }
+}
+
+QWidget* FormWindow::WidgetOf(const Control& control) const {
+  const ControlView* view = views_.value(&control);
+  return view ? &view->Widget() : nullptr;
 }
 
 void FormWindow::BuildMenuBar() {
@@ -64,8 +87,7 @@ void FormWindow::BuildMenuBar() {
   menuBar_->setGeometry(0, 0, ToQt(form_.Position.Get()).width(), menuBar_->sizeHint().height());
 }
 
-/// The shortcut is shown as text and is none of Qt's own: keys come to the form through its routing only, so none can
-/// slip past its lock.
+/// The shortcut is only shown, not given to Qt: keys reach the form by its routing alone, so that none passes its lock.
 void FormWindow::ShowCaption(MenuItem& item) {
   QAction* action = actions_.value(&item);
   if (!action) return;
@@ -78,7 +100,7 @@ void FormWindow::ControlChanged(Control& control, Aspect aspect) {
   if (&control == &form_) {
     FormChanged(aspect);
   } else {
-    widgets_.Update(control, aspect);
+    if (ControlView* view = views_.value(&control)) view->Update(aspect);
   }
 }
 
@@ -92,12 +114,12 @@ void FormWindow::FollowVisible() {
   if (!form_.Visible) return hide();
   if (!placed_) {
     const Place place = form_.Position;
-    // Before there is a main window its first dialog stands in the middle of the screen.
+    // A dialog that comes before the main window is put in the middle of the screen.
     const bool alone = parentWidget() && !parentWidget()->isVisible();
     const QPoint middle = screen()->availableGeometry().center() - rect().center();
     const QPoint origin = parentWidget() ? parentWidget()->frameGeometry().topLeft() : QPoint();
     const QPoint own = origin + QPoint(ToPixels(place.Left), ToPixels(place.Top));
-    // A dialog that was given no place goes where the window manager has room for it.
+    // A dialog without a place is left to the window manager.
     const bool anywhere = parentWidget() && place.Left == 0 && place.Top == 0;
     if (alone || !anywhere) move(alone ? middle : own);
     placed_ = !alone;
@@ -116,7 +138,7 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 void FormWindow::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   if (menuBar_) client_->setFocus();
-  if (Control* focus = form_.Focus()) widgets_.Update(*focus, Aspect::Focus);
+  if (Control* focus = form_.Focus()) ControlChanged(*focus, Aspect::Focus);
 }
 
 void FormWindow::moveEvent(QMoveEvent* event) {

@@ -1,29 +1,43 @@
-// The window of one form: made when it is first needed, it follows the form and hands in what the window system says.
+// The window of a form, which follows the form and reports to it what the window system says.
 #pragma once
 
+#include <QHash>
 #include <QMenuBar>
 #include <QWidget>
 #include <memory>
 
 #include "../form.h"
-#include "surface_widget.h"
-#include "widget_builder.h"
+#include "control_view.h"
+#include "screen_drawing.h"
 
 namespace platform::qt {
 
+/// The client area of a form.
+class ClientWidget : public DrawnWidget {
+ public:
+  ClientWidget(Form& form, QWidget* parent);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  Form& form_;
+};
+
 class FormWindow : public QWidget, public FormView {
  public:
-  /// `owner` is the window above which a dialog stays; null for the main window.
+  /// A dialog stays above its owner; the main window has none (null).
   FormWindow(Form& form, QWidget* owner);
   ~FormWindow() override;
 
   Form& Model() { return form_; }
-  const WidgetBuilder& Widgets() const { return widgets_; }
-  /// Shows or hides the window as the form says. A window that is first shown stands at the form's place, counted from
-  /// where its owner stands now.
+  /// The widget of a control of this form; null for other controls.
+  QWidget* WidgetOf(const Control& control) const;
+  /// Shows or hides the window as the form says. The first time it is shown it is placed where the form is, counted
+  /// from where its owner is now.
   void FollowVisible();
 
-  /// Takes note of what the window manager has put round the window.
+  /// Passes the size of the window manager's frame on to the form.
   void LearnFrame();
 
   void ControlChanged(Control& control, Aspect aspect) override;
@@ -35,13 +49,14 @@ class FormWindow : public QWidget, public FormView {
 
  private:
   void BuildMenuBar();
+  void MakeViews(const Control& container, QWidget* parent);
   void ShowCaption(MenuItem& item);
   void FormChanged(Aspect aspect);
 
   Form& form_;
   QMenuBar* menuBar_ = nullptr;
   ClientWidget* client_ = nullptr;
-  WidgetBuilder widgets_;
+  QHash<const Control*, ControlView*> views_;
   QHash<MenuItem*, QAction*> actions_;
   bool placed_ = false;
 };

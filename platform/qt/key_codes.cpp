@@ -1,6 +1,7 @@
 #include "key_codes.h"
 
 #include <QGuiApplication>
+#include <QKeySequence>
 #include <array>
 #include <string_view>
 
@@ -34,14 +35,14 @@ bool ScanCodesAreKnown() {
   return known;
 }
 
-// The letters by scan code, row by row, as they stand on a keyboard with Latin letters.
+// The letters of a Latin keyboard by scan code, row by row.
 struct LetterRow {
   quint32 firstScan;
   std::string_view letters;
 };
 constexpr LetterRow kLetterRows[] = {{24, "QWERTYUIOP"}, {38, "ASDFGHJKL"}, {52, "ZXCVBNM"}};
 
-/// The letter at the key's place, for keyboards whose letters are not Latin.
+/// The letter by the key's position, for keyboards whose letters are not Latin.
 KeyCode LetterByPlace(const QKeyEvent& event) {
   if (!ScanCodesAreKnown() || event.key() <= 0xFF || event.key() >= Qt::Key_Escape) return kKeyUnknown;
   for (const LetterRow& row : kLetterRows) {
@@ -86,8 +87,8 @@ KeyCode CodeOf(const QKeyEvent& event) {
   for (const Pair& pair : kNamedKeys) {
     if (pair.qtKey == key) return pair.code;
   }
-  // An umlaut or accented letter with a key of its own has the number of its character. Other signs would get the
-  // numbers of arrows and function keys.
+  // An umlaut or accented letter with a key of its own has the number of its character. The numbers of other signs
+  // are those of arrows and function keys.
   return key >= Qt::Key_Agrave && key <= 0xFF ? key : LetterByPlace(event);
 }
 
@@ -95,6 +96,19 @@ Modifiers ModifiersOf(Qt::KeyboardModifiers held) {
   return {.Shift = held.testFlag(Qt::ShiftModifier),
           .Control = held.testFlag(Qt::ControlModifier),
           .Alt = held.testFlag(Qt::AltModifier)};
+}
+
+QString TextOf(const Shortcut& shortcut) {
+  if (shortcut.Code == kKeyUnknown) return {};
+  const bool function = shortcut.Code >= kKeyF1 && shortcut.Code < kKeyF1 + 12;
+  Qt::Key key = static_cast<Qt::Key>(shortcut.Code);
+  if (function) key = static_cast<Qt::Key>(Qt::Key_F1 + shortcut.Code - kKeyF1);
+  if (shortcut.Code == kKeyBackspace) key = Qt::Key_Backspace;
+  Qt::KeyboardModifiers with = Qt::NoModifier;
+  with.setFlag(Qt::ShiftModifier, shortcut.With.Shift);
+  with.setFlag(Qt::ControlModifier, shortcut.With.Control);
+  with.setFlag(Qt::AltModifier, shortcut.With.Alt);
+  return QKeySequence(QKeyCombination(with, key)).toString(QKeySequence::NativeText);
 }
 
 }  // namespace platform::qt

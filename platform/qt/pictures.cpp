@@ -1,20 +1,25 @@
 #include "pictures.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QHash>
+#include <QImageReader>
 #include <QPaintDevice>
 #include <QSvgRenderer>
 #include <QWidget>
+#include <algorithm>
 #include <filesystem>
 #include <memory>
 
 #include "convert.h"
-#include "image_file.h"
 
 namespace platform::qt {
 namespace {
 
-/// A decoded picture: a drawing or an image, and the pixels made from it last.
+constexpr int kLongestSide = 1280;                // pixels
+constexpr qint64 kLargestFile = 8 * 1024 * 1024;  // bytes
+
+/// A drawing or an image, and the pixels made from it last.
 struct Decoded {
   std::unique_ptr<QSvgRenderer> drawing;
   QImage image;
@@ -27,7 +32,6 @@ struct Decoded {
 
 QString PathOf(const Picture& picture) { return picture.IsResource ? ":/" + ToQt(picture.Name) : ToQt(picture.Name); }
 
-/// When the file was changed last, as the system counts it.
 std::filesystem::file_time_type TimeOf(const Picture& picture) {
   std::error_code unknown;
   return std::filesystem::last_write_time(picture.Name, unknown);
@@ -47,15 +51,15 @@ Decoded Decode(const Picture& picture) {
 
 QHash<QString, std::shared_ptr<Decoded>> kept;
 
-/// The picture as it was decoded last, for painting: the file is not looked at again.
+/// The picture as it was decoded last, for painting. It does not look at the file again.
 const std::shared_ptr<Decoded>& Find(const Picture& picture) {
   std::shared_ptr<Decoded>& found = kept[PathOf(picture)];
   if (!found) found = std::make_shared<Decoded>(Decode(picture));
   return found;
 }
 
-/// The forms that show a picture need not get another one when its file has changed.
-void PaintAllAnew() {
+/// A form keeps its picture when only the file has changed.
+void RepaintAll() {
   for (QWidget* widget : QApplication::allWidgets()) widget->update();
 }
 
@@ -72,19 +76,28 @@ QPixmap Render(const Decoded& decoded, qreal ratio) {
 
 }  // namespace
 
+QImage ReadImageFile(const QString& path) {
+  const QFileInfo file(path);
+  if (!file.isFile() || file.size() > kLargestFile) return {};
+  QImageReader reader(path, "jpeg");
+  reader.setAutoDetectImageFormat(false);
+  const QSize size = reader.size();
+  return std::max(size.width(), size.height()) > kLongestSide ? QImage() : reader.read();
+}
+
 void ForgetPictures() { kept.clear(); }
 
 QSize SizeOf(const Picture& picture) { return picture.Empty() ? QSize() : Find(picture)->Size(); }
 
-bool LookFor(const Picture& picture) {
+bool Refresh(const Picture& picture) {
   if (picture.Empty() || picture.IsResource) return !SizeOf(picture).isEmpty();
   std::shared_ptr<Decoded>& found = kept[PathOf(picture)];
   if (!found || found->fileTime != TimeOf(picture)) {
     auto fresh = std::make_shared<Decoded>(Decode(picture));
-    // A file that has vanished or is damaged now leaves the picture that was seen so far.
+    // While a file is missing or damaged the picture stays what it was.
     const bool replaces = found && !fresh->Size().isEmpty();
     if (!found || replaces) found = std::move(fresh);
-    if (replaces) PaintAllAnew();
+    if (replaces) RepaintAll();
   }
   return !found->Size().isEmpty();
 }
@@ -97,6 +110,18 @@ QPixmap PixmapOf(const Picture& picture, qreal devicePixelRatio) {
     decoded.pixelsRatio = devicePixelRatio;
   }
   return decoded.pixels;
+}
+
+QIcon IconOf(const Picture& picture, const Picture& small) {
+  constexpr int kLargestSmall = 24;  // pixels
+  QIcon icon;
+  for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+    const Decoded& drawing = *Find(size <= kLargestSmall ? small : picture);
+    QPixmap pixels = Render(drawing, size / static_cast<qreal>(drawing.Size().width()));
+    pixels.setDevicePixelRatio(1);
+    icon.addPixmap(pixels);
+  }
+  return icon;
 }
 
 void DrawScaled(QPainter& painter, const Picture& picture, QPointF at, double scale) {

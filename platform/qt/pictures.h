@@ -1,7 +1,9 @@
-// The pictures of the program as Qt draws them: drawings compiled into the program, and files beside it. A picture is
-// decoded once and kept, so that painting touches no file.
+// The pictures of the program: drawings that are compiled in, and image files. A picture is decoded once and kept, so
+// that painting reads no file.
 #pragma once
 
+#include <QIcon>
+#include <QImage>
 #include <QPainter>
 #include <QPixmap>
 #include <QSize>
@@ -10,12 +12,16 @@
 
 namespace platform::qt {
 
+/// The JPEG picture in the file; empty if there is none. Only regular files are opened, as reading a pipe would never
+/// end, and a picture much larger than any window is not decoded.
+QImage ReadImageFile(const QString& path);
+
 /// The natural size in pixels; empty for a picture that cannot be loaded.
 QSize SizeOf(const Picture& picture);
 
-/// Whether the picture can be shown. A file that has changed since it was decoded is decoded again, and painted
-/// anew wherever it is seen. Called before a form is given a file's picture.
-bool LookFor(const Picture& picture);
+/// Whether the picture can be shown. A file that has changed since it was decoded is decoded again, and all windows are
+/// repainted. To be called before a form gets the picture of a file.
+bool Refresh(const Picture& picture);
 
 /// The picture for a screen with this many device pixels to a pixel; a null pixmap if it cannot be loaded.
 QPixmap PixmapOf(const Picture& picture, qreal devicePixelRatio);
@@ -23,10 +29,14 @@ QPixmap PixmapOf(const Picture& picture, qreal devicePixelRatio);
 /// Draws the picture at its natural size with its top left corner at the point; nothing if it cannot be loaded.
 void Draw(QPainter& painter, const Picture& picture, QPointF at);
 
-/// The same in another size, sharp at any resolution: a drawing is drawn as such.
+/// The same at another scale, drawings as vectors.
 void DrawScaled(QPainter& painter, const Picture& picture, QPointF at, double scale);
 
-/// Lets go of all decoded pictures; the application calls it before it ends.
+/// An icon in the sizes of desktops, drawn without the toolkit's plugin for drawings, which may not be installed.
+/// `small` is for the smallest sizes.
+QIcon IconOf(const Picture& picture, const Picture& small);
+
+/// Releases all decoded pictures, which may not outlive the application.
 void ForgetPictures();
 
 }  // namespace platform::qt

@@ -1,5 +1,4 @@
-#include "printers.h"
-
+// Printing: the installed printers, and a page on one of them or in a PDF file, drawn like the screen.
 #include <QApplication>
 #include <QBuffer>
 #include <QLibrary>
@@ -11,30 +10,28 @@
 #include <algorithm>
 
 #include "convert.h"
+#include "qt_services.h"
 #include "replay.h"
 
 namespace platform::qt {
 namespace {
 
-constexpr double kUnitsPerInch = 300;
-
-/// What a page takes of its sheet, in its units: hardly less than the narrower of the usual papers, and down to below
-/// the total.
-constexpr double kPageWidth = 2470;
-constexpr double kPageHeight = 1850;
-
-/// Draws on the whole sheet, the same whatever the device's own resolution; smaller only on paper that is too small.
-bool DrawPage(QPagedPaintDevice& device, const Surface& page) {
+/// Draws on the whole sheet, with the same result at every resolution of the device.
+bool DrawPage(QPagedPaintDevice& device, const Page& page) {
   QPainter painter;
   if (!painter.begin(&device)) return false;
-  const double fitting = std::min(device.width() / kPageWidth, device.height() / kPageHeight);
-  painter.scale(std::min(device.logicalDpiX() / kUnitsPerInch, fitting),
-                std::min(device.logicalDpiY() / kUnitsPerInch, fitting));
-  Replay(painter, page, kOnPaper);
+  const double fitting = std::min(device.width() / page.Width, device.height() / page.Height);
+  painter.scale(std::min(device.logicalDpiX() / page.UnitsPerInch, fitting),
+                std::min(device.logicalDpiY() / page.UnitsPerInch, fitting));
+  const Measure onPaper{.pixelsPerPoint = page.UnitsPerInch / 72,
+                        .lineWidth = page.UnitsPerInch / 100,
+                        .rightEdge = page.TextRight,
+                        .pictureScale = page.UnitsPerInch / 96};
+  Replay(painter, page.Drawing, onPaper);
   return painter.end();
 }
 
-/// The print system's own word on the job sent last, which the toolkit keeps to itself: a queue may refuse it.
+/// What the print system says of the job sent last: a queue may refuse it. The toolkit does not report that.
 bool LastJobWasTaken() {
   constexpr int kFirstFailure = 0x0100;
   using LastError = int (*)();
@@ -44,7 +41,7 @@ bool LastJobWasTaken() {
 
 }  // namespace
 
-std::vector<std::string> InstalledPrinters() {
+std::vector<std::string> QtServices::PrinterNames() {
   std::vector<std::string> names;
   const QString first = QPrinterInfo::defaultPrinterName();
   for (const QString& name : QPrinterInfo::availablePrinterNames()) {
@@ -53,8 +50,8 @@ std::vector<std::string> InstalledPrinters() {
   return names;
 }
 
-/// The toolkit takes another printer for one that is gone, and its paper for that of every other.
-bool PrintOn(const std::string& printer, const Surface& page) {
+/// The toolkit would print on another printer if this one is gone, and takes the default printer's paper for all.
+bool QtServices::Print(const std::string& printer, const Page& page) {
   const QPrinterInfo info = QPrinterInfo::printerInfo(ToQt(printer));
   if (info.isNull() || info.state() == QPrinter::Error) return false;
   QPrinter device(info, QPrinter::HighResolution);
@@ -64,7 +61,8 @@ bool PrintOn(const std::string& printer, const Surface& page) {
   return DrawPage(device, page) && LastJobWasTaken();
 }
 
-std::string PdfBytes(const Surface& page) {
+/// On the usual paper of the system's country.
+std::string QtServices::PdfOf(const Page& page) {
   QBuffer bytes;
   bytes.open(QIODevice::WriteOnly);
   QPdfWriter device(&bytes);

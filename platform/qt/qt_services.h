@@ -1,7 +1,5 @@
-// The services of the machine, by Qt and the standard library.
+// The services of the machine by Qt and the standard library. Boxes and printing are in files of their own.
 #pragma once
-
-#include <random>
 
 #include "../services.h"
 #include "screen_saver.h"
@@ -10,15 +8,15 @@ namespace platform::qt {
 
 class QtServices : public Services {
  public:
-  QtServices();
+  explicit QtServices(Version programVersion) : programVersion_(programVersion) {}
 
   Answer MessageBox(const std::string& text, const std::string& title, Buttons buttons, Icon icon) override;
   void WaitWhileVisible(Form& form) override;
   bool ChooseFile(FileDialog& dialog) override;
   std::vector<std::string> PrinterNames() override;
-  bool Print(const std::string& printer, const Surface& page) override;
-  std::string PdfOf(const Surface& page) override;
-  Version ProgramVersion() override;
+  bool Print(const std::string& printer, const Page& page) override;
+  std::string PdfOf(const Page& page) override;
+  Version ProgramVersion() override { return programVersion_; }
   bool CanShow(const Picture& picture) override;
   double Random() override;
   std::filesystem::path ProgramFolder() override;
@@ -26,11 +24,11 @@ class QtServices : public Services {
   std::filesystem::path DocumentsFolder() override;
   std::string Today() override;
   std::string DecimalSeparator() override;
-  void KeepScreenAwake(bool awake) override { screenSaver_.KeepAway(awake); }
+  void KeepScreenAwake(bool awake, const std::string& reason) override { screenSaver_.KeepAway(awake, reason); }
   void Quit(int status) override;
 
  private:
-  std::mt19937_64 generator_;  ///< seeded once, from the clock
+  const Version programVersion_;
   ScreenSaver screenSaver_;
 };
 

@@ -2,11 +2,18 @@
 
 #include <QFontMetricsF>
 #include <algorithm>
+#include <cmath>
 
-#include "convert.h"
 #include "pictures.h"
 
 namespace platform::qt {
+
+double Measure::Pixel(double unit) const { return std::clamp(unit / unitsPerPixel, -30000.0, 30000.0); }
+
+QRectF Measure::Between(double x1, double y1, double x2, double y2) const {
+  const QPointF low = At(std::min(x1, x2), std::min(y1, y2));
+  return {low, QSizeF(std::max(1.0, std::abs(Pixel(x2) - Pixel(x1))), std::max(1.0, std::abs(Pixel(y2) - Pixel(y1))))};
+}
 
 void StepPainter::operator()(const TextStep& step) {
   UseFace(step);
@@ -33,7 +40,7 @@ void StepPainter::operator()(const BoxStep& step) {
   if (step.Filled) {
     painter_.fillRect(box, ToQt(step.Ink));
   } else {
-    // One unit of the line lies inside the box, so that what is drawn there leaves the outline whole.
+    // The line reaches one unit into the box. What is drawn inside leaves the outline whole.
     const double inside = 1 - measure_.lineWidth / 2;
     painter_.setPen(QPen(ToQt(step.Ink), measure_.lineWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter_.setBrush(Qt::NoBrush);

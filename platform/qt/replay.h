@@ -1,14 +1,33 @@
-// Replays what was drawn on a surface, at the resolution of whatever it is drawn on now.
+// Draws the steps of a surface at the resolution of any device.
 #pragma once
 
 #include <QPainter>
 
-#include "../surface.h"
-#include "measure.h"
+#include "convert.h"
 
 namespace platform::qt {
 
-/// Paints one step after the other.
+/// How units of a surface, points of its fonts and pixels of its pictures become units of a painter.
+struct Measure {
+  double unitsPerPixel = 1;
+  double pixelsPerPoint = kScreenPixelsPerPoint;
+  double lineWidth = 1;     ///< of outlines, in the painter's units
+  double rightEdge = 0;     ///< where text ends at the latest, in the painter's units; 0: anywhere
+  double pictureScale = 1;  ///< at other scales than 1 pictures are drawn as vectors
+
+  /// A length or place of the surface in the painter's units. Counts from a file can put a step anywhere; what is far
+  /// outside is never seen.
+  double Pixel(double unit) const;
+  QPointF At(double x, double y) const { return {Pixel(x), Pixel(y)}; }
+  /// The box from one corner up to the other without it, at least one pixel wide and high.
+  QRectF Between(double x1, double y1, double x2, double y2) const;
+  QFont FaceOf(const TextStep& step) const { return ToQt(step.Face, pixelsPerPoint); }
+};
+
+inline constexpr Measure kInPixels{};
+inline constexpr Measure kInTwips{.unitsPerPixel = kTwipsPerPixel};
+
+/// Draws one step after the other.
 class StepPainter {
  public:
   StepPainter(QPainter& painter, const Measure& measure) : painter_(painter), measure_(measure) {}
@@ -18,13 +37,13 @@ class StepPainter {
   void operator()(const BoxStep& step);
   void operator()(const PictureStep& step);
 
-  /// Gives the painter the colour and the font of the text.
+  /// Sets the painter to the colour and font of the text.
   void UseFace(const TextStep& step);
 
  private:
-  /// 0 for a text that may go on for ever.
+  /// 0 for a text without limit.
   double RoomFor(const TextStep& step) const;
-  /// A text that is too long is drawn narrower, and ends with dots where it could not be read any more.
+  /// Draws a text that is too long narrower, and where that would be unreadable cuts it with dots.
   void DrawWithin(double room, const QPointF& foot, const QString& text);
 
   QPainter& painter_;

@@ -2,18 +2,15 @@
 
 #include <algorithm>
 #include <cmath>
-
-#include "convert.h"
-#include "pictures.h"
-#include "replay.h"
+#include <utility>
 
 namespace platform::qt {
 namespace {
 
-constexpr int kMostParts = 24;  // of a region; with more it costs less to paint what lies between them, too
+constexpr int kMostParts = 24;  // of a region; with more, painting what is between them costs less
 constexpr double kAround = 2;   // pixels that soft edges and accents may reach beyond
 
-/// Whether all letters stay between the lines that the font tells of.
+/// Whether all letters are between the ascent and the descent of the font.
 bool IsPlain(const std::string& text) {
   return std::all_of(text.begin(), text.end(), [](unsigned char byte) { return byte >= ' ' && byte < 0x80; });
 }
@@ -36,7 +33,7 @@ QRegion ScreenDrawing::Follow(std::span<const DrawingStep> now) {
 
 void ScreenDrawing::Paint(QPainter& painter, const QRegion& within) const {
   StepPainter paint(painter, measure_);
-  const double ratio = painter.device()->devicePixelRatioF();  // letters stand on whole pixels of the screen
+  const double ratio = painter.device()->devicePixelRatioF();  // letters are on whole pixels of the screen
   for (const ShownStep& shown : shown_) {
     if (!within.intersects(shown.Extent)) continue;
     const auto* text = std::get_if<TextStep>(&shown.Step);
@@ -74,6 +71,36 @@ QRectF ScreenDrawing::ExtentOf(const DrawingStep& step, const QStaticText& lette
   if (const auto* box = std::get_if<BoxStep>(&step)) return measure_.Between(box->X1, box->Y1, box->X2, box->Y2);
   const auto& picture = std::get<PictureStep>(step);
   return {measure_.At(picture.X, picture.Y), SizeOf(picture.Image)};
+}
+
+DrawnWidget::DrawnWidget(const Surface& drawing, const Measure& measure, QWidget* parent)
+    : QWidget(parent), drawing_(drawing), shown_(measure) {
+  shown_.Follow(drawing.Steps());  // which may be there before the window
+}
+
+void DrawnWidget::DrawingChanged() {
+  if (std::exchange(due_, true)) return;
+  const auto showChange = [this] { update(TakeChange()); };
+  QMetaObject::invokeMethod(this, showChange, Qt::QueuedConnection);
+}
+
+QRegion DrawnWidget::TakeChange() {
+  due_ = false;
+  return shown_.Follow(drawing_.Steps()).translated(contentsRect().topLeft());
+}
+
+void DrawnWidget::Paint(QPainter& painter, const QRegion& region, const std::optional<QColor>& ground,
+                        const Picture& picture, QPoint at) {
+  // One rectangle after the other: into a rectangle pixels are copied, into any other shape they are blended.
+  for (const QRect& part : region) {
+    painter.setClipRect(part);
+    if (ground) painter.fillRect(part, *ground);
+    Draw(painter, picture, at);
+  }
+  painter.setClipRegion(region);
+  painter.translate(at);
+  shown_.Paint(painter, region.translated(-at));
+  painter.resetTransform();
 }
 
 }  // namespace platform::qt

@@ -1,15 +1,17 @@
-// A drawing as the screen shows it: each step with the place where it is seen and, for a text, its letters laid out, so
-// that painting it again costs little and only what has changed need be painted.
+// A drawing on the screen, and the widget that shows it. Each step is kept with its place and, for a text, its laid-out
+// letters, so that painting it again costs little and only what has changed is painted.
 #pragma once
 
 #include <QPainter>
 #include <QRegion>
 #include <QStaticText>
+#include <QWidget>
+#include <optional>
 #include <span>
 #include <vector>
 
-#include "../surface.h"
-#include "measure.h"
+#include "pictures.h"
+#include "replay.h"
 
 namespace platform::qt {
 
@@ -17,11 +19,11 @@ class ScreenDrawing {
  public:
   explicit ScreenDrawing(const Measure& measure) : measure_(measure) {}
 
-  /// Takes over a drawing. Gives back where it may differ from the one before, in pixels: the places of all steps that
-  /// do not stand at the same place of the other list. Anywhere else the same steps were drawn in the same order.
+  /// Takes over a drawing and returns where it may differ from the one before, in pixels: the places of all steps whose
+  /// counterpart in the other list is different. Everywhere else the same steps were drawn in the same order.
   QRegion Follow(std::span<const DrawingStep> now);
 
-  /// Paints the steps that are seen within the region, in pixels.
+  /// Paints the steps within the region, in pixels.
   void Paint(QPainter& painter, const QRegion& within) const;
 
  private:
@@ -36,6 +38,27 @@ class ScreenDrawing {
 
   const Measure& measure_;
   std::vector<ShownStep> shown_;
+};
+
+/// A widget with a drawing. Of a new drawing only the difference to the one before is painted.
+class DrawnWidget : public QWidget {
+ public:
+  DrawnWidget(const Surface& drawing, const Measure& measure, QWidget* parent);
+  /// Called for each step that is drawn. The change is painted when control returns to the event loop.
+  void DrawingChanged();
+
+ protected:
+  /// Paints a ground, the picture on it and the drawing within the region. `at` is the corner of picture and drawing,
+  /// in pixels.
+  void Paint(QPainter& painter, const QRegion& region, const std::optional<QColor>& ground, const Picture& picture,
+             QPoint at = {});
+
+ private:
+  QRegion TakeChange();
+
+  const Surface& drawing_;
+  ScreenDrawing shown_;
+  bool due_ = false;
 };
 
 }  // namespace platform::qt

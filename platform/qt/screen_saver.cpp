@@ -18,20 +18,21 @@ QDBusMessage CallOf(const char* method) {
 
 }  // namespace
 
-void ScreenSaver::KeepAway(bool away) {
+void ScreenSaver::KeepAway(bool away, const std::string& reason) {
   wanted_ = away;
-  Settle();
+  reason_ = QString::fromStdString(reason);
+  SendRequest();
 }
 
-void ScreenSaver::Settle() {
+void ScreenSaver::SendRequest() {
   if (asking_ || wanted_ == inhibited_.has_value()) return;
   wanted_ ? Inhibit() : UnInhibit();
 }
 
-/// One that is refused is not asked again until the screen is to stay on anew.
+/// A request that was refused is not repeated before the next call of KeepAway.
 void ScreenSaver::Inhibit() {
   asking_ = true;
-  const auto call = CallOf("Inhibit") << QCoreApplication::applicationName() << "The clock of the game is running";
+  const auto call = CallOf("Inhibit") << QCoreApplication::applicationName() << reason_;
   auto* answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);
   connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
     const QDBusPendingReply<uint> number = *answer;
@@ -39,7 +40,7 @@ void ScreenSaver::Inhibit() {
     asking_ = false;
     if (!number.isValid()) return;
     inhibited_ = number.value();
-    Settle();  // it may not be wanted any more
+    SendRequest();  // it may not be wanted any more
   });
 }
 

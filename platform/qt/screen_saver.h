@@ -1,28 +1,32 @@
-// Keeps the screen from going dark, through the desktop's own service on the session bus. Nothing here waits: calls are
-// sent off, and answers are taken as they come. Where there is no bus or no such service nothing happens.
+// Keeps the screen from going dark by the desktop's service on the session bus. All calls are asynchronous. Without a
+// bus or such a service nothing happens.
 #pragma once
 
 #include <QObject>
+#include <QString>
 #include <optional>
+#include <string>
 
 namespace platform::qt {
 
 class ScreenSaver : private QObject {
  public:
-  /// Gives the screen free.
-  ~ScreenSaver() override { KeepAway(false); }
+  /// Lets the screen go dark again.
+  ~ScreenSaver() override { KeepAway(false, {}); }
 
-  /// From now on the screen stays on, or may go dark again. The bus is not looked for before it is needed.
-  void KeepAway(bool away);
+  /// Keeps the screen on, or lets it go dark again. Desktops show the reason. The bus is not used before the first call
+  /// that keeps it on.
+  void KeepAway(bool away, const std::string& reason);
 
  private:
-  void Settle();
+  void SendRequest();
   void Inhibit();
   void UnInhibit();
 
   bool wanted_ = false;
-  bool asking_ = false;            ///< the answer is still to come
-  std::optional<uint> inhibited_;  ///< the number under which the service holds the screen
+  QString reason_;
+  bool asking_ = false;            ///< waiting for the answer of the service
+  std::optional<uint> inhibited_;  ///< the service's number for the request
 };
 
 }  // namespace platform::qt

@@ -12,7 +12,7 @@
 namespace platform::qt {
 namespace {
 
-/// Whether an event is the user's doing: what a locked window must not get.
+/// Whether an event comes from the user. A locked window must not get it.
 bool IsUserInput(QEvent::Type type) {
   switch (type) {
     case QEvent::MouseButtonPress:
@@ -34,8 +34,8 @@ bool IsUserInput(QEvent::Type type) {
   }
 }
 
-/// Keys that Qt's own widgets get as well once the form has had them: those of text fields and lists, and Alt, with
-/// which the menu bar is reached. Tab, Enter and Esc belong to the form alone.
+/// Keys that Qt's widgets get after the form: those of text fields and lists, and Alt, which leads to the menu bar.
+/// Tab, Enter and Esc are the form's alone.
 bool BelongsToWidgetToo(KeyCode code, QWidget* focus) {
   if (code == kKeyAlt) return true;
   if (code == kKeyTab || code == kKeyEnter || code == kKeyEscape) return false;
@@ -49,14 +49,14 @@ FormWindow* FormWindowOf(QObject* object) {
   return widget ? dynamic_cast<FormWindow*>(widget->window()) : nullptr;
 }
 
-/// Whether the user walks along the menu bar by keyboard.
+/// Whether the keyboard is in the menu bar.
 bool MenuIsInUse() { return qobject_cast<QMenuBar*>(QApplication::focusWidget()) != nullptr; }
 
-/// The user has put the focus on a widget: the form's focus is there too.
+/// The user has moved the focus to a widget; the form follows.
 void FollowFocus(QWidget* widget) {
   FormWindow* window = widget ? dynamic_cast<FormWindow*>(widget->window()) : nullptr;
-  Control* control = window ? window->Widgets().ControlOf(widget) : nullptr;
-  if (control && control->TakesFocus()) window->Model().SetFocus(*control);
+  const ControlView* view = window ? ControlView::Of(widget) : nullptr;
+  if (view && view->Model().TakesFocus()) window->Model().SetFocus(view->Model());
 }
 
 KeyTracker::Time TimeOf(const QKeyEvent& event) { return KeyTracker::Time(event.timestamp()); }
@@ -110,7 +110,7 @@ void Shell::FormChanged(Form& form, Aspect aspect) {
   if (aspect == Aspect::Focus) BringToFront(form);
   if (aspect != Aspect::Visible) return;
   if (!form.Visible) {
-    // The keyboard goes back before the window goes, so that the next key finds a window of the program.
+    // Activated before the window is hidden, so that the next key finds a window of the program.
     Form* next = mainForm_.AcceptsInput() ? &mainForm_ : desktop_.Front();
     if (next) WindowOf(*next)->activateWindow();
     if (FormWindow* window = WindowOf(form)) window->FollowVisible();
@@ -149,7 +149,7 @@ bool Shell::FilterForWindow(FormWindow& window, QEvent& event) {
 bool Shell::HandleKey(FormWindow& window, QKeyEvent& event) {
   if (MenuIsInUse()) return false;
   const bool own = window.Model().AcceptsInput();
-  SettleReleases(CodeOf(event));
+  DeliverReleases(CodeOf(event));
   Form* receiver = desktop_.KeyReceiver(window.Model());
   if (event.type() == QEvent::KeyPress) {
     PressKey(receiver, event);
@@ -163,8 +163,8 @@ void Shell::PressKey(Form* receiver, const QKeyEvent& event) {
   const KeyCode code = CodeOf(event);
   const auto verdict = keys_.Press(code, TimeOf(event), event.isAutoRepeat());
   if (verdict != KeyTracker::Verdict::Counts || !receiver) return;
-  // From the first Tab on it is seen where the focus is, but not where the keys are the form's wherever it is.
-  if (code == kKeyTab && !receiver->KeyPreview) WindowOf(*receiver)->setAttribute(Qt::WA_KeyboardFocusChange);
+  // From the first Tab on the focus is shown, but not in forms that use their keys wherever it is.
+  if (code == kKeyTab && receiver->PressesFocusedButtons) WindowOf(*receiver)->setAttribute(Qt::WA_KeyboardFocusChange);
   receiver->KeyPress(code, ModifiersOf(event.modifiers()));
 }
 
@@ -176,12 +176,12 @@ void Shell::ReleaseKey(Form* receiver, const QKeyEvent& event) {
   if (verdict == KeyTracker::Verdict::Counts && receiver) receiver->KeyRelease(code, with);
   if (verdict != KeyTracker::Verdict::Waits) return;
   waiting_.push_back({receiver, code, with, time});
-  QTimer::singleShot(KeyTracker::kPatience, this, [this] { SettleReleases(kKeyUnknown); });
+  QTimer::singleShot(KeyTracker::kPatience, this, [this] { DeliverReleases(kKeyUnknown); });
 }
 
-/// Lets the releases that wait count, but for those of a key whose repeat may be coming in now: a repeat follows its
-/// own release directly, so a key of another code shows that the others came up for good.
-void Shell::SettleReleases(KeyCode except) {
+/// Delivers the waiting releases, except those of a key that may be repeated now: a repeat follows its own release
+/// directly, so an event of another key shows that these keys are up.
+void Shell::DeliverReleases(KeyCode except) {
   std::vector<WaitingRelease> due;
   due.swap(waiting_);
   for (const WaitingRelease& release : due) {
@@ -198,12 +198,13 @@ void Shell::FollowActivation(FormWindow& window, QEvent::Type type) {
     window.LearnFrame();
     return desktop_.Activated(window.Model());
   }
-  // A dialog that opened just now may still get keys through this window; they are not this form's any more.
+  // A dialog that has just been opened may still get keys through this window.
   if (window.Model().AcceptsInput()) window.Model().ForgetKeys();
 }
 
-/// Keys that are down while a message box or another program gets the keyboard come up there. A compositor may move the
-/// focus to the window that was clicked only after the form in front was called back: then it is called again.
+/// When a message box or another program gets the keyboard, keys that are down are released there. A compositor may
+/// move the focus to the window that was clicked only after the form in front was activated; then that is activated
+/// again.
 void Shell::FollowFocusWindow(QWindow* window) {
   FormWindow* form = window ? FormWindowOf(window) : nullptr;
   if (!form) {

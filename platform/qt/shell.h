@@ -1,5 +1,5 @@
-// Shows the forms of a desktop: a window for each form, its timers, and the way of every event from the window system
-// to the model's routing.
+// Shows the forms of a desktop: makes their windows, runs their timers, and passes the events of the window system to
+// the routing of the model.
 #pragma once
 
 #include <QEvent>
@@ -25,7 +25,7 @@ class Shell : public QObject {
   Shell(Desktop& desktop, Form& mainForm);
   ~Shell() override;
 
-  /// The window of a form; null as long as it was never shown.
+  /// The window of a form; null before it was first shown.
   FormWindow* WindowOf(const Form& form) const;
 
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -47,7 +47,7 @@ class Shell : public QObject {
   bool HandleKey(FormWindow& window, QKeyEvent& event);
   void PressKey(Form* receiver, const QKeyEvent& event);
   void ReleaseKey(Form* receiver, const QKeyEvent& event);
-  void SettleReleases(KeyCode except);
+  void DeliverReleases(KeyCode except);
   void FollowActivation(FormWindow& window, QEvent::Type type);
   void FollowFocusWindow(QWindow* window);
   void BringToFront(Form& form);

@@ -70,9 +70,9 @@ TEST(SurfaceTest, KeepsTheStepsSinceTheLastClear) {
   surface.PrintAt(5, 6, "first");
   surface.ForeColor = Colour::FromBgr(0xE16941);
   surface.FontBold = true;
-  surface.Print("second");
+  surface.PrintAt(5, 7, "second");
   for (const char* name : {"", "a.svg"}) surface.PaintPicture({name}, 1, 2);
-  EXPECT_EQ(Drawn(surface), (Lines{"5,6 'first' 20 000000", "5,6 'second' 20+ 4169E1", "1,2 a.svg"}));
+  EXPECT_EQ(Drawn(surface), (Lines{"5,6 'first' 20 000000", "5,7 'second' 20+ 4169E1", "1,2 a.svg"}));
   EXPECT_EQ(changes, 5);
 }
 

@@ -109,6 +109,7 @@ TEST_F(RoutingTest, EnterEscAndSpacePressButtons) {
       {kKeyEscape, true, &form.txt, false, "form 27 field 27 "}};
   for (const auto& [key, preview, focus, enabled, log] : cases) {
     form.KeyPreview = preview;
+    form.PressesFocusedButtons = !preview;
     form.SetFocus(*focus);
     form.cmdOK.Enabled = form.cmdCancel.Enabled = enabled;
     form.Log.clear();

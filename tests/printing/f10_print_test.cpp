@@ -56,7 +56,7 @@ TEST_F(PrintDialogTest, PdfGoesWhereTheUserWantsItAndWhatFailsIsTold) {
   EXPECT_TRUE(services.Printed.first.empty() && services.Boxes.empty()) << "no name chosen";
   services.ChosenFile = (Folder / "evening.pdf").string();
   Print(0);
-  EXPECT_EQ(Bytes(services.ChosenFile), services.PdfOf(Report()));
+  EXPECT_EQ(Bytes(services.ChosenFile), services.PdfOf({.Drawing = Report()}));
   EXPECT_TRUE(services.Boxes.empty());
   services.ChosenFile = Folder.string();
   services.PrinterFails = true;

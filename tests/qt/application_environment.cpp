@@ -1,10 +1,9 @@
 // One application object for all tests of this program.
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <memory>
 
-#include "../../platform/qt/fonts.h"
+#include "../../platform/qt/application.h"
 
 namespace {
 
@@ -12,8 +11,7 @@ class ApplicationEnvironment : public testing::Environment {
  public:
   void SetUp() override {
     application_ = std::make_unique<QApplication>(count_, arguments_);
-    QApplication::setStyle("Fusion");
-    QApplication::setFont(platform::qt::ToQt(platform::Font{}));
+    platform::qt::SetLook();
   }
   void TearDown() override { application_.reset(); }
 

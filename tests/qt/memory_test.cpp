@@ -84,7 +84,7 @@ TEST_F(Memory, DoesNotGrowWithCommandsAndDialogs) {
 }
 
 TEST_F(Memory, DoesNotGrowWithBoxesAndFileDialogs) {
-  platform::qt::QtServices services;
+  platform::qt::QtServices services({});
   const auto closeSoon = [] { QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); }); };
   ExpectNoGrowth([&] {
     closeSoon();

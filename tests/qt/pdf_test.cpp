@@ -4,7 +4,7 @@
 #include <QRegularExpression>
 #include <QStandardPaths>
 
-#include "../../platform/qt/printers.h"
+#include "../../platform/qt/qt_services.h"
 #include "../storage/temporary_folder.h"
 
 namespace tests {
@@ -31,14 +31,15 @@ TEST_F(PdfTest, TextsAndBoxesStandAtTheirPlaces) {
                         {400, 1675, 25, "36x"},
                         {2200, 3300, 10, "Ende"},
                         {300, 600, 20, "Hohenstein", 350}};
-  platform::Surface page;
+  platform::Page sheet{.Width = 2470, .Height = 1850, .TextRight = 2440};
+  platform::Surface& page = sheet.Drawing;
   page.FontName = "Arial";
   for (const Text& text : texts) {
     page.FontSize = text.Size;
     page.PrintWithin(text.X, text.Y, text.Room, text.Word);
   }
   page.FillBox(600, 900, 1200, 1000, {0, 0, 255});
-  Put(Folder / "page.pdf", platform::qt::PdfBytes(page));
+  Put(Folder / "page.pdf", platform::qt::QtServices({}).PdfOf(sheet));
 
   const QString words = QString::fromStdString(Bytes(Read("pdftotext", {"-bbox"}, "")));
   for (const Text& text : texts) {

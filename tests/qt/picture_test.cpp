@@ -8,8 +8,6 @@
 #include <QImage>
 #include <QTemporaryDir>
 
-#include "../../platform/qt/convert.h"
-#include "../../platform/qt/image_file.h"
 #include "../../platform/qt/pictures.h"
 #include "../../platform/qt/replay.h"
 #include "../../windows/image_lists.h"

@@ -19,7 +19,7 @@ class Hands {
   explicit Hands(platform::qt::Shell& shell) : shell_(shell) {}
 
   platform::qt::FormWindow& WindowOf(const platform::Form& form) { return *shell_.WindowOf(form); }
-  QWidget& WidgetOf(platform::Control& control) { return *WindowOf(*control.Owner()).Widgets().WidgetOf(control); }
+  QWidget& WidgetOf(platform::Control& control) { return *WindowOf(*control.Owner()).WidgetOf(control); }
 
   void Type(const platform::Form& form, Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) {
     QTest::keyClick(WindowOf(form).windowHandle(), key, with);

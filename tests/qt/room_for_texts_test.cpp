@@ -3,9 +3,7 @@
 #include <fstream>
 
 #include "../../platform/mnemonic.h"
-#include "../../platform/qt/button_widget.h"
 #include "../../platform/qt/convert.h"
-#include "../../platform/qt/fonts.h"
 #include "../../storage/language_file.h"
 #include "real_windows.h"
 

@@ -34,9 +34,9 @@ TEST(ScreenSaver, IsKeptAwayWhileWantedEvenIfThatChangesBeforeTheAnswer) {
   ASSERT_TRUE(bus.registerVirtualObject("/org/freedesktop/ScreenSaver", &desktop));
   {
     platform::qt::ScreenSaver screenSaver;
-    for (const bool away : {false, true, true, false}) screenSaver.KeepAway(away);
+    for (const bool away : {false, true, true, false}) screenSaver.KeepAway(away, "why");
     EXPECT_TRUE(QTest::qWaitFor([&] { return desktop.Calls == QStringList{"I", "U41"}; }));
-    screenSaver.KeepAway(true);
+    screenSaver.KeepAway(true, "why");
     EXPECT_TRUE(QTest::qWaitFor([&] { return desktop.Calls.size() == 3; }));
     QTest::qWait(50);  // for the answer
   }

@@ -3,7 +3,6 @@
 #include <QComboBox>
 #include <QLineEdit>
 
-#include "../../platform/qt/spoken_roles.h"
 #include "real_windows.h"
 
 namespace {
@@ -11,7 +10,6 @@ namespace {
 using Spoken = tests::RealWindows;
 
 TEST_F(Spoken, WindowsAndControlsByTheirRolesAndNames) {
-  platform::qt::InstallSpokenRoles();
   dialogs::F20& F20 = Window.F20;
   dialogs::F8& F8 = Window.F8;
   F20.OpenNewGame();

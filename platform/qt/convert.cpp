@@ -1,4 +1,4 @@
-#include "fonts.h"
+#include "convert.h"
 
 #include <QFontDatabase>
 #include <QMap>
@@ -10,7 +10,7 @@ QString FamilyFor(const std::string& name) {
   static const QMap<QString, QString> kStandIns{
       {"Verdana", "DejaVu Sans"}, {"Arial", "Liberation Sans"}, {"MS Sans Serif", "Liberation Sans"}};
   static QMap<QString, QString> chosen;
-  const QString wanted = QString::fromStdString(name);
+  const QString wanted = ToQt(name);
   auto found = chosen.find(wanted);
   if (found == chosen.end()) {
     const bool there = QFontDatabase::hasFamily(wanted);
