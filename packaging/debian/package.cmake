@@ -23,6 +23,7 @@ saved, loaded and printed. It speaks ten languages.")
 # The libraries are found in the executable. What it looks for by name only: the type in which its windows are measured.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-dejavu-core, fonts-liberation")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-translations-l10n)  # buttons of message boxes in the user's language
+# Buttons of message boxes in the user's language; windows of their own on Wayland desktops.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-translations-l10n, qt6-wayland")
 
 include(CPack)

@@ -141,7 +141,7 @@ bool Shell::FilterForWindow(FormWindow& window, QEvent& event) {
   Form* front = event.type() == QEvent::MouseButtonPress ? desktop_.Front() : nullptr;
   if (front) {
     calledBack_ = true;
-    BringToFront(*front);
+    desktop_.BringToFront(*front);
   }
   return true;
 }

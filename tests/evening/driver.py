@@ -1,6 +1,7 @@
 """Drives the finished program from outside: a screen that nobody sees, keys and clicks as a user's, and the windows that
 come of them. All that is started here ends with the `with` block of the screen."""
 import contextlib
+import json
 import os
 import pathlib
 import shutil
@@ -68,6 +69,12 @@ class XScreen(Screen):
     size = "1280x900"  # pixels
 
     def open(self):
+        self._open_server()
+        managed = self.folder / "managed"
+        self.start("openbox", "--startup", f"touch {managed}", stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_for(managed.exists, "a window manager")
+
+    def _open_server(self):
         ready, tell = os.pipe()
         self.start("Xvfb", "-displayfd", str(tell), "-screen", "0", f"{self.size}x24", "-fbdir", str(self.folder),
                    "-ardelay", "300", "-arinterval", "25", "-noreset", "-nolisten", "tcp",
@@ -75,9 +82,6 @@ class XScreen(Screen):
         os.close(tell)
         with os.fdopen(ready) as pipe:
             self.environment.update(DISPLAY=f":{pipe.readline().strip()}", QT_QPA_PLATFORM="xcb")
-        managed = self.folder / "managed"
-        self.start("openbox", "--startup", f"touch {managed}", stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        wait_for(managed.exists, "a window manager")
 
     def _hands(self, *command):
         return self.run("xdotool", *map(str, command)).splitlines()
@@ -128,6 +132,50 @@ class XScreen(Screen):
         """Into a file; "rgb:-" is none, but gives the colours back."""
         return self.run("import", "-silent", "-window", window, *options, str(path), text=False)
 
+
+class WaylandScreen(XScreen):
+    """A Wayland compositor, as the one window of an X server, which hands it keys by their places, and clicks."""
+
+    def open(self):
+        self._open_server()
+        config = self.folder / "sway"
+        config.write_text("default_floating_border none\nfocus_on_window_activation focus\ninput * repeat_delay 300\n"
+                          "bindsym Mod1+F4 kill\nxwayland disable\n")
+        self.environment.update(WLR_BACKENDS="x11", WLR_RENDERER="pixman", SWAYSOCK=str(self.folder / "sway.sock"))
+        as_user = []
+        if os.geteuid() == 0:  # as whom it does not run
+            shutil.chown(self.folder, "nobody")
+            as_user = ["setpriv", "--reuid", "nobody", "--regid", "nogroup", "--clear-groups"]
+        self.start(*as_user, "sway", "--config", str(config), stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_for(self._views, "a compositor")
+        self.environment.update(WAYLAND_DISPLAY=next(self.folder.glob("wayland-?")).name, QT_QPA_PLATFORM="wayland-egl")
+
+    def _views(self):
+        """All that the compositor shows, from the root on, by their numbers."""
+        views = [json.loads(self.run("swaymsg", "-t", "get_tree") or "null")]
+        for view in views:
+            views += [*view["nodes"], *view["floating_nodes"]] if view else []
+        return {str(view["id"]): view for view in views if view}
+
+    def click(self, window, x, y, button=1):
+        place = self._views()[window]["rect"]
+        self._hands("mousemove", place["x"] + x, place["y"] + y, "click", button)
+
+    def height(self, window):
+        return self._views()[window]["rect"]["height"]
+
+    def windows(self, process):
+        return {window: view["name"] for window, view in self._views().items() if view.get("pid") == process.pid}
+
+    def has_keyboard(self, window):
+        return self._views()[window]["focused"]
+
+    def force_keyboard(self, window, *keys):
+        self.run("swaymsg", f"[con_id={window}] focus")
+        self.keys(*keys)
+
+    def layout(self, name):
+        self.run("swaymsg", "input", "*", "xkb_layout", name)
 
 class Program:
     """The program as it is shipped, in a folder of its own, and what a player does with it again and again."""

@@ -36,6 +36,7 @@ TEST_F(Lock, KeepsKeysAndMouseOutAndDoesNotLookGreyed) {
 TEST_F(Lock, AClickThatTookTheKeyboardGivesItBack) {
   platform::qt::FormWindow& main = WindowOf(Window.F1);
   Window.F7.PrepareDiceDialog();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&WindowOf(Window.F7)));
   Click(Window.F1.picWurfel(0));
   main.activateWindow();  // as a compositor does, after the click
   EXPECT_TRUE(QTest::qWaitForWindowActive(&WindowOf(Window.F7)));
