@@ -66,6 +66,7 @@ void F11::ShowAttack() {
   Show();
   if (context_.lock.IsTaken()) context_.lock.Take(*this);
   picShowPlayers.Drawing.Cls();
+  picShowPlayers.Drawing.PaintPicture(windows::kShips, 0, 0);
   const int seats = core::SeatsPlayed(state().game);
   for (int seat = 1; seat <= seats; ++seat) {
     DrawRow(state().game.Players[seat], (seat - 1) * kRowHeight);

@@ -43,6 +43,8 @@ constexpr int kMeasuredX = 400;
 constexpr int kTheoryX = 450;
 constexpr int kHeadY = 1;
 constexpr int kRowHeight = 20;
+constexpr int kEmblemX = 502;
+constexpr int kEmblemY = 18;
 constexpr int kEventPictureX = 506;
 constexpr int kEventPictureY[] = {33, 75, 119, 162};
 constexpr int kEventCountX = 545;
@@ -148,6 +150,7 @@ void DrawDiceChart(State& state, const std::string& decimalSeparator, Surface& p
   core::ComputeDiceFigures(state.game);
   picW.ForeColor = windows::kLightGrey;
   picW.Cls();
+  if (!core::HasEventDie(state.game)) picW.PaintPicture(windows::kEmblem, kEmblemX, kEmblemY);
   DrawFrame(picW);
   DrawHistogram(state, decimalSeparator, picW);
   if (core::HasEventDie(state.game)) DrawEventDie(state, picW);

@@ -35,8 +35,8 @@ inline const platform::Picture kArrow{"arrow.svg"};
 inline const platform::Picture kLogo{"logo.svg"};
 inline const platform::Picture kWinner{"winner.svg"};
 inline const platform::Picture kMetropolis{"metropolis.svg"};
-/// Faint in themselves, to be painted first: 97 by 174 pixels for the chart's right column while no event die fills it,
-/// from (502, 18), and 243 by 147 for the whole table of an attack.
+/// Faint in themselves, to be painted first: for the chart's right column while no event die fills it, 97 by 174
+/// pixels, and for the table of an attack, 243 by 147.
 inline const platform::Picture kEmblem{"emblem.svg"};
 inline const platform::Picture kShips{"ships.svg"};
 
