@@ -11,9 +11,8 @@
 
 #include "../core/new_game.h"
 #include "../storage/game_file.h"
-#include "../storage/game_file_reader.h"
-#include "../storage/regular_file.h"
 #include "../storage/safe_file.h"
+#include "../storage/text_lines.h"
 #include "games.h"
 
 namespace {
@@ -58,7 +57,7 @@ class NoEvents : public storage::GameFileEvents {
 };
 
 void Load(benchmark::State& run) {
-  storage::WriteWhole(FileHere(), storage::GameFileText(GameWithRolls(static_cast<int>(run.range(0)))));
+  if (!storage::WriteWhole(FileHere(), storage::GameFileText(GameWithRolls(static_cast<int>(run.range(0)))))) return;
   core::State game;
   NoEvents events;
   for (auto _ : run) {
@@ -69,7 +68,7 @@ void Load(benchmark::State& run) {
 
 /// The lines of a file, its numbers as numbers; no line is held against what should stand there.
 void BareRead(benchmark::State& run) {
-  storage::WriteWhole(FileHere(), storage::GameFileText(GameWithRolls(static_cast<int>(run.range(0)))));
+  if (!storage::WriteWhole(FileHere(), storage::GameFileText(GameWithRolls(static_cast<int>(run.range(0)))))) return;
   for (auto _ : run) {
     const int file = open(FileHere().c_str(), O_RDONLY);
     std::string bytes(std::filesystem::file_size(FileHere()), '\0');

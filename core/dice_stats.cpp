@@ -19,31 +19,33 @@ double TheoryShare(int sum) {
   return kShares[std::clamp(std::abs(sum - 7), 0, 5)];
 }
 
-void ComputeDiceFigures(Game& game) {
-  CountTotalRolls(game);
-  game.MaxDiceCount = *std::max_element(game.DiceCount.begin() + kLowestSum, game.DiceCount.end());
+void ComputeDiceFigures(const Game& game, Figures& figures) {
+  figures.TotalRolls = CountTotalRolls(game);
+  figures.MaxDiceCount = *std::max_element(game.DiceCount.begin() + kLowestSum, game.DiceCount.end());
   for (int sum = kLowestSum; sum <= kHighestSum; ++sum) {
     const float count = game.DiceCount[sum];
-    const bool none = count == 0 || game.TotalRolls == 0;
-    game.DicePercent[sum] = none ? 0 : count * 100 / static_cast<float>(game.TotalRolls);
+    const bool none = count == 0 || figures.TotalRolls == 0;
+    figures.DicePercent[sum] = none ? 0 : count * 100 / static_cast<float>(figures.TotalRolls);
   }
 }
 
-int ChartBarUnit(const Game& game) {
-  if (game.MaxDiceCount <= 0) return kFullBar;
-  const int unit = kFullBar / game.MaxDiceCount;
-  if (ChartMarkerLength(game, unit, 7) <= kMarkerRoom) return unit;
-  return static_cast<int>(WholeDivide(kMarkerRoom * 100, game.TotalRolls * TheoryShare(7)));
+int ChartBarUnit(const Figures& figures) {
+  if (figures.MaxDiceCount <= 0) return kFullBar;
+  const int unit = kFullBar / figures.MaxDiceCount;
+  if (ChartMarkerLength(figures, unit, 7) <= kMarkerRoom) return unit;
+  return static_cast<int>(WholeDivide(kMarkerRoom * 100, figures.TotalRolls * TheoryShare(7)));
 }
 
-long long ChartMarkerLength(const Game& game, int barUnit, int sum) {
-  return WholeDivide(static_cast<double>(game.TotalRolls) * barUnit * TheoryShare(sum), 100);
+long long ChartMarkerLength(const Figures& figures, int barUnit, int sum) {
+  return WholeDivide(static_cast<double>(figures.TotalRolls) * barUnit * TheoryShare(sum), 100);
 }
 
-bool IsAboveShare(const Game& game, int sum) { return game.DicePercent[sum] > static_cast<float>(TheoryShare(sum)); }
+bool IsAboveShare(const Figures& figures, int sum) {
+  return figures.DicePercent[sum] > static_cast<float>(TheoryShare(sum));
+}
 
-long long EventPercent(const Game& game, int face) {
-  return WholeDivide(game.EventCount[face] * 100.0, game.TotalRolls);
+long long EventPercent(const State& state, int face) {
+  return WholeDivide(state.game.EventCount[face] * 100.0, state.figures.TotalRolls);
 }
 
 }  // namespace core

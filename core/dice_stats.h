@@ -14,19 +14,19 @@ inline constexpr Numbered<float, kHighestSum + 1> DiceProbability{0,     0,     
 double TheoryShare(int sum);
 
 /// Works out `TotalRolls`, `MaxDiceCount` and `DicePercent` from the counts.
-void ComputeDiceFigures(Game& game);
+void ComputeDiceFigures(const Game& game, Figures& figures);
 
 /// Pixels of bar for one roll on the chart, from the figures: the tallest bar reaches 300 pixels, or less where the
 /// marker of the sum 7 would not stay inside the same room.
-int ChartBarUnit(const Game& game);
+int ChartBarUnit(const Figures& figures);
 
 /// Pixels from the foot of the bars to the end of the marker of a sum.
-long long ChartMarkerLength(const Game& game, int barUnit, int sum);
+long long ChartMarkerLength(const Figures& figures, int barUnit, int sum);
 
 /// Whether a sum has come up more often than its share.
-bool IsAboveShare(const Game& game, int sum);
+bool IsAboveShare(const Figures& figures, int sum);
 
 /// Share of an event face (1 to 4) among all rolls in whole percent; 0 without rolls.
-long long EventPercent(const Game& game, int face);
+long long EventPercent(const State& state, int face);
 
 }  // namespace core

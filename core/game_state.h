@@ -88,17 +88,14 @@ struct TRoll {
   bool operator==(const TRoll&) const = default;
 };
 
-/// What a game file holds and what is derived from it. Index 0 of the arrays holds no game data.
+/// What a game file holds, and the clocks. Index 0 of the arrays holds no game data.
 struct Game {
   Numbered<TPlayer, kSeats + 1> Players;
-  Numbered<std::int16_t, kSeats + 1> PlayerPoints{};
-  Numbered<bool, kSeats + 1> LeaderFlag{};
   Numbered<std::int16_t, kHighestSum + 1> DiceCount{};   ///< by sum
   Numbered<std::int16_t, kEventFaces + 1> EventCount{};  ///< by face; 0 counts the rolls without event die
   Numbered<TRoll, kLoggedRolls + 1> DiceLog;
-  Numbered<TRoll, kSeats + 1> LegacyRolls;         ///< six records of old game files, at 0 to 5
-  Numbered<float, kHighestSum + 1> DicePercent{};  ///< measured share of each sum
-  Numbered<std::int16_t, 2> Clock{};               ///< seconds: 0 the game, 1 since the last roll
+  Numbered<TRoll, kSeats + 1> LegacyRolls;  ///< six records of old game files, at 0 to 5
+  Numbered<std::int16_t, 2> Clock{};        ///< seconds: 0 the game, 1 since the last roll
   std::int16_t GameType = 0;
   std::int16_t NumPlayers = 0;
   std::int16_t WinPoints = 0;
@@ -106,14 +103,25 @@ struct Game {
   CheckValue OptScenario;
   std::string GameTitle;
   std::string GameInfo;
-  bool GameWon = false;
+  bool ClockRunning = false;
+  std::string FileVersion;  ///< first line of the game file being loaded
+};
+
+/// What is worked out from the game before it is drawn.
+struct Figures {
+  Numbered<std::int16_t, kSeats + 1> PlayerPoints{};
+  Numbered<bool, kSeats + 1> LeaderFlag{};
+  Numbered<float, kHighestSum + 1> DicePercent{};  ///< measured share of each sum
+  std::int16_t TotalRolls = 0;
+  std::int16_t MaxDiceCount = 0;
+};
+
+/// What a dialog was asked for.
+struct Asked {
   std::int16_t CurrentPlayer = 0;  ///< seat of the action dialog
   std::int16_t DataPlayer = 0;     ///< seat of the data dialog
   std::int16_t ActionCode = 0;
-  std::int16_t TotalRolls = 0;
-  std::int16_t MaxDiceCount = 0;
-  bool ClockRunning = false;
-  std::string FileVersion;  ///< first line of the game file being loaded
+  bool GameWon = false;  ///< the standing names a winner
 };
 
 /// What the settings file holds beside names, title and info line.
@@ -145,6 +153,8 @@ struct Language {
 
 struct State {
   core::Game game;
+  core::Figures figures;
+  core::Asked asked;
   core::Settings settings;
   core::Entry entry;
   core::Language language;

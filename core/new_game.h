@@ -9,15 +9,26 @@
 
 namespace core {
 
-/// What holds before the settings file is read: options, keys of the event die, no language chosen, clocks shown.
+/// What holds before the settings file is read: options, keys of the event die, no language chosen, all is shown.
 void SetDefaults(State& state);
+
 /// A base game of the seats 1 to 4 without any roll. Names stay.
 void BeginWithoutGame(State& state);
+
 /// Both clocks at zero and standing.
 void StopClocks(State& state);
 
-/// The settings that hold where the settings file says nothing: all is shown.
-void SetSettingsDefaults(State& state);
+/// What a game of a kind begins with.
+struct Kind {
+  std::int16_t GameType = 0;
+  std::int16_t Settlements = 0;
+  std::int16_t Cities = 0;
+  std::int16_t WinPoints = 0;  ///< as usual
+  int Theme = 0;               ///< without the second expansion
+};
+
+/// The kind of this number; none for one that only a file can bring.
+const Kind* KindOf(std::int16_t gameType);
 
 /// What was chosen for a new game.
 struct NewGame {

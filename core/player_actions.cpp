@@ -70,15 +70,15 @@ std::optional<Refusal> RefusalOf(int actionCode, const TPlayer& player) {
 
 }  // namespace
 
-std::optional<Refusal> ApplyPlayerAction(Game& game) {
-  if (!IsSeat(game.CurrentPlayer)) return std::nullopt;
-  TPlayer& player = game.Players[game.CurrentPlayer];
-  if (const auto refusal = RefusalOf(game.ActionCode, player)) return refusal;
+std::optional<Refusal> ApplyPlayerAction(Game& game, const Asked& asked) {
+  if (!IsSeat(asked.CurrentPlayer)) return std::nullopt;
+  TPlayer& player = game.Players[asked.CurrentPlayer];
+  if (const auto refusal = RefusalOf(asked.ActionCode, player)) return refusal;
   for (const Change& change : kChanges) {
-    if (change.Code == game.ActionCode) player.*change.Of = Saturate16(player.*change.Of + change.By);
+    if (change.Code == asked.ActionCode) player.*change.Of = Saturate16(player.*change.Of + change.By);
   }
   for (const TitleMove& move : kTitleMoves) {
-    if (move.Code != game.ActionCode) continue;
+    if (move.Code != asked.ActionCode) continue;
     TakeFromAll(game, move.Of);
     player.*move.Of = true;
   }

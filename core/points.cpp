@@ -20,35 +20,35 @@ int MetropolisCount(const TPlayer& player) {
   return player.PoliticsMetropolis + player.TradeMetropolis + player.ScienceMetropolis;
 }
 
-void ComputePoints(Game& game) {
+void ComputePoints(const Game& game, Figures& figures) {
   const auto players = WithoutPlaceZero(game.Players);
-  std::transform(players.begin(), players.end(), WithoutPlaceZero(game.PlayerPoints).begin(),
+  std::transform(players.begin(), players.end(), WithoutPlaceZero(figures.PlayerPoints).begin(),
                  [](const TPlayer& player) { return Saturate16(PointsOf(player)); });
 }
 
-void CalcPoints(Game& game, Screen& screen) {
-  ComputePoints(game);
+void CalcPoints(State& state, Screen& screen) {
+  ComputePoints(state.game, state.figures);
   screen.DrawPlayerPanels();
 }
 
-void ClampPoints(Game& game) {
-  for (std::int16_t& points : WithoutPlaceZero(game.PlayerPoints)) {
+void ClampPoints(Figures& figures) {
+  for (std::int16_t& points : WithoutPlaceZero(figures.PlayerPoints)) {
     points = std::clamp<std::int16_t>(points, 0, kHighestPoints);
   }
 }
 
-void FindLeaders(Game& game) {
-  const auto points = WithoutPlaceZero(game.PlayerPoints);
+void FindLeaders(Figures& figures) {
+  const auto points = WithoutPlaceZero(figures.PlayerPoints);
   const std::int16_t most = *std::max_element(points.begin(), points.end());
-  std::transform(points.begin(), points.end(), WithoutPlaceZero(game.LeaderFlag).begin(),
+  std::transform(points.begin(), points.end(), WithoutPlaceZero(figures.LeaderFlag).begin(),
                  [most](std::int16_t own) { return own == most; });
 }
 
 std::optional<int> WinningSeat(const State& state) {
   if (!state.settings.ShowWinner) return std::nullopt;
-  const Game& game = state.game;
+  const Figures& figures = state.figures;
   for (int seat = 1; seat <= kSeats; ++seat) {
-    if (game.LeaderFlag[seat] && game.PlayerPoints[seat] >= game.WinPoints) return seat;
+    if (figures.LeaderFlag[seat] && figures.PlayerPoints[seat] >= state.game.WinPoints) return seat;
   }
   return std::nullopt;
 }

@@ -24,16 +24,16 @@ int MetropolisCount(const TPlayer& player);
 
 /// `PlayerPoints` of all six seats, playing or not, from their holdings in any kind of game. The panels are to be
 /// drawn afterwards.
-void ComputePoints(Game& game);
+void ComputePoints(const Game& game, Figures& figures);
 
-/// Works the points out and has the panels drawn. Called after every change of what players hold.
-void CalcPoints(Game& game, Screen& screen);
+/// Works the points out and has the panels drawn.
+void CalcPoints(State& state, Screen& screen);
 
 /// Brings `PlayerPoints` of all six seats to 0 to 99. First step of drawing the panels.
-void ClampPoints(Game& game);
+void ClampPoints(Figures& figures);
 
 /// Sets `LeaderFlag` for every seat that nobody has more points than; seats that do not play take part.
-void FindLeaders(Game& game);
+void FindLeaders(Figures& figures);
 
 /// The first leading seat (1 to 6) that has the points to win, none while the user does not want to be told. Reads the
 /// points and leaders as they stand and remembers nothing: as long as the condition holds it answers the same.

@@ -28,7 +28,7 @@ Entered EnterDigit(Entry& entry, int value) {
 template <typename Counts>
 void Change(Counts& counts, int index, int by) {
   if (index < 0 || index >= static_cast<int>(counts.size())) return;
-  auto& count = counts[static_cast<std::size_t>(index)];
+  auto& count = counts[index];
   const std::int16_t changed = Saturate16(count + by);
   count = by < 0 ? std::max<std::int16_t>(changed, 0) : changed;
 }
@@ -85,9 +85,8 @@ bool EntryComplete(const State& state) {
 
 int DieOfKey(int keyCode) { return keyCode >= '1' && keyCode <= '6' ? keyCode - '0' : 0; }
 
-std::int16_t CountTotalRolls(Game& game) {
-  game.TotalRolls = Saturate16(std::accumulate(game.DiceCount.begin() + kLowestSum, game.DiceCount.end(), 0));
-  return game.TotalRolls;
+std::int16_t CountTotalRolls(const Game& game) {
+  return Saturate16(std::accumulate(game.DiceCount.begin() + kLowestSum, game.DiceCount.end(), 0));
 }
 
 bool IsAttack(const State& state) {

@@ -29,8 +29,8 @@ bool EntryComplete(const State& state);
 /// The value of a digit key of a die, 1 to 6; 0 for any other key.
 int DieOfKey(int keyCode);
 
-/// The sum of `DiceCount(2..12)`, which becomes `TotalRolls`.
-std::int16_t CountTotalRolls(Game& game);
+/// The sum of `DiceCount(2..12)`.
+std::int16_t CountTotalRolls(const Game& game);
 
 /// Counts and logs the roll of `Die1`, `Die2` (1 to 6) and `EventDie` (0 to 4), shows it and ends its entry. A roll
 /// for which the log has no room left is shown but neither counted nor logged.

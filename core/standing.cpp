@@ -7,11 +7,11 @@
 namespace core {
 namespace {
 
-std::vector<RankedPlayer> AllSeats(const Game& game) {
+std::vector<RankedPlayer> AllSeats(const State& state) {
   std::vector<RankedPlayer> players;
   for (int seat = 1; seat <= kSeats; ++seat) {
-    const TPlayer& player = game.Players[seat];
-    const std::int16_t points = player.Active ? game.PlayerPoints[seat] : std::int16_t{0};
+    const TPlayer& player = state.game.Players[seat];
+    const std::int16_t points = player.Active ? state.figures.PlayerPoints[seat] : std::int16_t{0};
     players.push_back({.Rank = 0, .Name = player.Name, .Active = player.Active, .Points = points});
   }
   return players;
@@ -28,13 +28,13 @@ void NumberRanks(std::vector<RankedPlayer>& players) {
 
 }  // namespace
 
-std::vector<RankedPlayer> RankPlayers(const Game& game) {
-  std::vector<RankedPlayer> players = AllSeats(game);
+std::vector<RankedPlayer> RankPlayers(const State& state) {
+  std::vector<RankedPlayer> players = AllSeats(state);
   // Stable, so that the seats decide among equals.
   std::stable_sort(players.begin(), players.end(),
                    [](const RankedPlayer& left, const RankedPlayer& right) { return left.Points > right.Points; });
   NumberRanks(players);
-  players.resize(static_cast<std::size_t>(SeatsPlayed(game)));
+  players.resize(static_cast<std::size_t>(SeatsPlayed(state.game)));
   return players;
 }
 

@@ -63,7 +63,7 @@ std::int16_t NumberIn(const platform::TextBox& field) {
   return value;
 }
 
-void MakeNumberField(platform::TextBox& field, const char* text) {
+void MakeNumberField(platform::TextBox& field, const std::string& text) {
   field.ReadOnly = true;
   field.Align = platform::Alignment::Centre;
   field.Text = text;
@@ -107,7 +107,7 @@ F20::F20(const windows::Context& context)
       cmdCancel(this, "cmdCancel", kCancelPlace),
       picGameStatus(this, "picGameStatus", kStatusPictures) {
   Caption = "Neues Spiel erstellen";
-  MakeNumberField(txtneuSPBed, "10");
+  MakeNumberField(txtneuSPBed, std::to_string(core::KindOf(core::kBaseGame)->WinPoints));
   MakeNumberField(txtNOP, "4");
   cmdA(0).Caption = cmdB(0).Caption = "-";
   cmdA(1).Caption = cmdB(1).Caption = "+";
@@ -162,9 +162,11 @@ void F20::OpenNewGame() {
   Open();
 }
 
+std::int16_t F20::ChosenKind() const { return optB.Value ? core::kFirstExpansion : core::kBaseGame; }
+
 /// Every click on any of the four controls brings the points to win back to those of the kind of game.
 void F20::UpdateGameOptions() {
-  txtneuSPBed.Text = std::string(optB.Value ? "13" : "10");
+  txtneuSPBed.Text = std::to_string(core::KindOf(ChosenKind())->WinPoints);
   ShowStatus();
 }
 
@@ -195,7 +197,7 @@ void F20::F20_cmdB_Click(int index) { UpdatePlayerFields(Stepped(txtNOP, index, 
 void F20::F20_cmdStart_Click() {
   core::NewGame chosen;
   chosen.NumPlayers = NumberIn(txtNOP);
-  chosen.GameType = optB.Value ? core::kFirstExpansion : core::kBaseGame;
+  chosen.GameType = ChosenKind();
   chosen.WinPoints = NumberIn(txtneuSPBed);
   for (int i = 0; i < core::kSeats; ++i) chosen.Names[i + 1] = txtSpielername(i).Text;
   chosen.Flottillen = Ticked(chkFlo);

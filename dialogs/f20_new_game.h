@@ -45,6 +45,7 @@ class F20 : public windows::Dialog {
 
  private:
   void WireEvents();
+  std::int16_t ChosenKind() const;
   void UpdateGameOptions();
   void ShowStatus();
   void UpdatePlayerFields(int count);

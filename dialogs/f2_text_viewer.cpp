@@ -1,7 +1,6 @@
 #include "f2_text_viewer.h"
 
-#include "../storage/line_reader.h"
-#include "../storage/regular_file.h"
+#include "../storage/text_lines.h"
 
 namespace dialogs {
 namespace {

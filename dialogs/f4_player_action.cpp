@@ -1,5 +1,6 @@
 #include "f4_player_action.h"
 
+#include "../core/new_game.h"
 #include "../core/player_actions.h"
 #include "../windows/form_metrics.h"
 #include "../windows/image_lists.h"
@@ -83,7 +84,7 @@ void F4::SetCaptions() {
 }
 
 void F4::OpenActionDialog(int seat) {
-  state().game.CurrentPlayer = static_cast<std::int16_t>(seat);
+  state().asked.CurrentPlayer = static_cast<std::int16_t>(seat);
   const std::string& name = state().game.Players[seat].Name;
   Caption = state().Text(34) + " " + name + " (" + state().Text(16) + " " + std::to_string(seat) + ")";
   Open();
@@ -91,7 +92,7 @@ void F4::OpenActionDialog(int seat) {
 
 void F4::OfferActions() {
   const std::int16_t gameType = state().game.GameType;
-  if (gameType != core::kBaseGame && gameType != core::kFirstExpansion) return;
+  if (!core::KindOf(gameType)) return;
   for (int action = kFirstAction; action <= kLastAction; ++action) {
     cmdSP(action).Enabled = core::ActionOffered(gameType, action);
   }
@@ -99,15 +100,14 @@ void F4::OfferActions() {
 
 /// Carries `ActionCode` out, or tells why it is refused.
 void F4::Apply() {
-  core::Game& game = state().game;
-  const auto refusal = core::ApplyPlayerAction(game);
+  const auto refusal = core::ApplyPlayerAction(state().game, state().asked);
   if (!refusal) return;
-  const std::string& name = game.Players[game.CurrentPlayer].Name;
+  const std::string& name = state().game.Players[state().asked.CurrentPlayer].Name;
   context_.services.MessageBox(name + " " + state().Text(refusal->MessageText), state().Text(refusal->TitleText));
 }
 
 void F4::F4_cmdSP_Click(int index) {
-  state().game.ActionCode = static_cast<std::int16_t>(index);
+  state().asked.ActionCode = static_cast<std::int16_t>(index);
   Apply();
   LeaveAndScore();
 }
@@ -115,7 +115,7 @@ void F4::F4_cmdSP_Click(int index) {
 void F4::F4_Form_KeyUp(int keyCode) {
   const int action = ActionOfKey(keyCode);
   if (action != 0) {
-    state().game.ActionCode = static_cast<std::int16_t>(action);
+    state().asked.ActionCode = static_cast<std::int16_t>(action);
     if (core::ActionOffered(state().game.GameType, action)) Apply();
   }
   LeaveAndScore();

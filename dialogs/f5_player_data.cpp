@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "../core/new_game.h"
 #include "../core/numbers.h"
 #include "../storage/code_page.h"
 #include "../windows/form_metrics.h"
@@ -109,11 +110,11 @@ void F5::SetCaptions() {
   }
 }
 
-core::TPlayer& F5::Player() { return state().game.Players[state().game.DataPlayer]; }
+core::TPlayer& F5::Player() { return state().game.Players[state().asked.DataPlayer]; }
 
 void F5::PrepareDataDialog() {
-  if (!core::IsSeat(state().game.DataPlayer)) return;
-  const std::string seat = std::to_string(state().game.DataPlayer);
+  if (!core::IsSeat(state().asked.DataPlayer)) return;
+  const std::string seat = std::to_string(state().asked.DataPlayer);
   Caption = state().Text(46) + " " + Player().Name + " (" + state().Text(16) + seat + ")";
   ShowRows();
   for (int row = 0; row < kRows; ++row) ShowValue(row);
@@ -124,7 +125,7 @@ void F5::PrepareDataDialog() {
 /// Shows the rows that the kind of game has; of an unknown kind nothing is known, and the rows stay.
 void F5::ShowRows() {
   const std::int16_t gameType = state().game.GameType;
-  if (gameType != core::kBaseGame && gameType != core::kFirstExpansion) return;
+  if (!core::KindOf(gameType)) return;
   const Shown hidden = gameType == core::kBaseGame ? Shown::InExpansion : Shown::InBaseGame;
   for (int row = 1; row < kRows; ++row) {
     const bool visible = kTable[row].When != hidden;

@@ -92,7 +92,7 @@ F8::F8(const windows::Context& context)
   fraSelectLang.Caption = "Sprache auswählen / Select Language";
   fraMustSL.Caption = "Neuer Start / 1st use";
   fraMustSL.Visible = false;
-  txtSieger.Text = "10";
+  txtSieger.Text = std::to_string(core::KindOf(core::kBaseGame)->WinPoints);
   cmdOK.Caption = "OK";
   cmdOK.Default = true;
   for (int i = 0; i < core::kEventFaces; ++i) {
@@ -236,11 +236,8 @@ void F8::F8_txtSieger_Change() {
 }
 
 void F8::F8_txtSieger_KeyUp() {
-  const std::int16_t gameType = state().game.GameType;
-  if (!core::NumberIn(txtSieger.Text.Get())) {
-    if (gameType == core::kBaseGame) txtSieger.Text = "10";
-    if (gameType == core::kFirstExpansion) txtSieger.Text = "13";
-  }
+  const core::Kind* kind = core::KindOf(state().game.GameType);
+  if (kind && !core::NumberIn(txtSieger.Text.Get())) txtSieger.Text = std::to_string(kind->WinPoints);
 }
 
 /// Takes over what waits for OK.

@@ -1,5 +1,6 @@
 #include "f9_standing.h"
 
+#include "../core/new_game.h"
 #include "../core/standing.h"
 #include "../windows/form_metrics.h"
 #include "../windows/image_lists.h"
@@ -60,7 +61,7 @@ F9::F9(const windows::Context& context)
 void F9::SetCaptions() { Caption = state().Text(86); }
 
 void F9::ShowStanding() {
-  const std::vector<core::RankedPlayer> ranking = core::RankPlayers(state().game);
+  const std::vector<core::RankedPlayer> ranking = core::RankPlayers(state());
   DrawStandingTable(state(), ranking, picRanking.Drawing);
   picRanking.SpokenName = SpokenStanding(state(), ranking);
   ShowHeadline(ranking.empty() ? std::string() : ranking.front().Name);
@@ -73,12 +74,12 @@ void F9::ShowStanding() {
 }
 
 void F9::ShowHeadline(const std::string& firstName) {
-  lblSiegertext.Caption = state().game.GameWon ? firstName + " " + state().Text(88) : state().Text(87);
+  lblSiegertext.Caption = state().asked.GameWon ? firstName + " " + state().Text(88) : state().Text(87);
 }
 
 void F9::ShowColumnHeads() {
   const std::int16_t gameType = state().game.GameType;
-  if (gameType != core::kBaseGame && gameType != core::kFirstExpansion) return;
+  if (!core::KindOf(gameType)) return;
   const std::span<const int> symbols = StandingColumns(gameType);
   for (int column = picSymbol.First(); column <= picSymbol.Last(); ++column) {
     platform::PictureBox& head = picSymbol(column);

@@ -3,7 +3,6 @@
 #include <sstream>
 
 #include "../storage/game_file.h"
-#include "../storage/game_file_reader.h"
 
 namespace {
 

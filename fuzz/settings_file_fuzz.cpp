@@ -17,7 +17,6 @@ bool Read(const std::string& bytes, core::State& state) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   core::State state, again;
   core::SetDefaults(state);
-  core::SetSettingsDefaults(state);
   Read(std::string(data, data + size), state);
   const std::string written = storage::SettingsText(state);
   if (!Read(written, again) || storage::SettingsText(again) != written) __builtin_trap();

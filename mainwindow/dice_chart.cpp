@@ -65,33 +65,33 @@ void DrawHeads(const State& state, Surface& picW) {
   picW.PrintAt(kTheoryX, kHeadY, state.Text(20));
 }
 
-void DrawFigures(const core::Game& game, int sum, int y, const std::string& separator, Surface& picW) {
+void DrawFigures(const State& state, int sum, int y, const std::string& separator, Surface& picW) {
   picW.FontBold = true;
   picW.PrintAt(kSumX, y, std::to_string(sum));
   picW.FontBold = false;
-  picW.PrintAt(kCountX, y, std::to_string(game.DiceCount[sum]) + " x");
-  picW.PrintAt(kMeasuredX, y, core::PercentText(game.DicePercent[sum], separator));
+  picW.PrintAt(kCountX, y, std::to_string(state.game.DiceCount[sum]) + " x");
+  picW.PrintAt(kMeasuredX, y, core::PercentText(state.figures.DicePercent[sum], separator));
   picW.PrintAt(kTheoryX, y, core::PlainText(core::DiceProbability[sum], separator) + "%");
 }
 
 /// The bar of a sum inside the open bracket that shows how far it should reach.
-void DrawBar(const core::Game& game, int sum, int y, int barUnit, const BarColours& colours, Surface& picW) {
-  const double end = kBarX + static_cast<double>(core::ChartMarkerLength(game, barUnit, sum));
-  const double bar = kBarX + game.DiceCount[sum] * barUnit;
+void DrawBar(const State& state, int sum, int y, int barUnit, const BarColours& colours, Surface& picW) {
+  const double end = kBarX + static_cast<double>(core::ChartMarkerLength(state.figures, barUnit, sum));
+  const double bar = kBarX + state.game.DiceCount[sum] * barUnit;
   picW.FillBox(kBarX, y, end, y + 2, kMarker);
   picW.FillBox(kBarX, y + 15, end, y + 13, kMarker);
-  picW.FillBox(kBarX, y + 2, bar, y + 13, core::IsAboveShare(game, sum) ? colours.Above : colours.NotAbove);
+  picW.FillBox(kBarX, y + 2, bar, y + 13, core::IsAboveShare(state.figures, sum) ? colours.Above : colours.NotAbove);
   picW.FillBox(end, y, end, y + 15, kMarker);
 }
 
 void DrawHistogram(const State& state, const std::string& separator, Surface& picW) {
-  const int barUnit = core::ChartBarUnit(state.game);
+  const int barUnit = core::ChartBarUnit(state.figures);
   const BarColours& colours = state.settings.Contrast.IsOn() ? kStrongBars : kQuietBars;
   DrawHeads(state, picW);
   for (int sum = core::kLowestSum; sum <= core::kHighestSum; ++sum) {
     const int y = (sum - 1) * kRowHeight;
-    DrawFigures(state.game, sum, y, separator, picW);
-    DrawBar(state.game, sum, y, barUnit, colours, picW);
+    DrawFigures(state, sum, y, separator, picW);
+    DrawBar(state, sum, y, barUnit, colours, picW);
   }
 }
 
@@ -114,7 +114,7 @@ void DrawEventDie(const State& state, Surface& picW) {
   for (int face = 1; face <= core::kEventFaces; ++face) {
     const int y = 43 + (face - 1) * kEventPitch;
     picW.PrintAt(kEventCountX, y, std::to_string(state.game.EventCount[face]));
-    picW.PrintAt(kEventShareX, y, std::to_string(core::EventPercent(state.game, face)) + "%");
+    picW.PrintAt(kEventShareX, y, std::to_string(core::EventPercent(state, face)) + "%");
   }
   for (int face = 1; face <= core::kEventFaces; ++face) {
     const int y = 20 + (face - 1) * kEventPitch;
@@ -132,14 +132,14 @@ void DrawTotal(const State& state, Surface& picW) {
   picW.PrintAt(503, 195, state.Text(26));
   picW.FontBold = true;
   picW.FontSize = 20;
-  const int total = state.game.TotalRolls;
+  const int total = state.figures.TotalRolls;
   picW.PrintAt(total <= 9 ? 530 : 520, 205, std::to_string(total) + "x");
 }
 
 }  // namespace
 
 std::string SpokenChart(const State& state) {
-  std::string text = state.Text(26) + ": " + std::to_string(state.game.TotalRolls);
+  std::string text = state.Text(26) + ": " + std::to_string(state.figures.TotalRolls);
   for (int sum = core::kLowestSum; sum <= core::kHighestSum; ++sum) {
     text += "; " + std::to_string(sum) + ": " + std::to_string(state.game.DiceCount[sum]) + " x";
   }
@@ -147,7 +147,7 @@ std::string SpokenChart(const State& state) {
 }
 
 void DrawDiceChart(State& state, const std::string& decimalSeparator, Surface& picW) {
-  core::ComputeDiceFigures(state.game);
+  core::ComputeDiceFigures(state.game, state.figures);
   picW.ForeColor = windows::kLightGrey;
   picW.Cls();
   if (!core::HasEventDie(state.game)) picW.PaintPicture(windows::kEmblem, kEmblemX, kEmblemY);

@@ -50,7 +50,7 @@ void DrawLastSix(const core::State& state, Surface& picInfoLine) {
   picInfoLine.Cls();
   picInfoLine.PrintAt(kLabelX, kTextY, state.Text(25));
   for (int place = 0; place < kShown; ++place) {
-    const int entry = state.game.TotalRolls - (kShown - 1) + place;
+    const int entry = state.figures.TotalRolls - (kShown - 1) + place;
     if (entry < 1 || entry > core::kLoggedRolls) continue;
     DrawRoll(state.game.DiceLog[entry], state.game.GameType, place, picInfoLine);
   }

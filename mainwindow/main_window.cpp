@@ -53,12 +53,12 @@ void MainWindow::DrawDiceStats() {
 
 /// Looks at the win anew each time: as long as a leader has the points, every redraw opens the winner's window.
 void MainWindow::DrawPlayerPanels() {
-  core::ClampPoints(State.game);
-  core::FindLeaders(State.game);
+  core::ClampPoints(State.figures);
+  core::FindLeaders(State.figures);
   PaintPanels(State, services_, F1);
   F4.OfferActions();
   if (!core::WinningSeat(State)) return;
-  State.game.GameWon = true;
+  State.asked.GameWon = true;
   F9.ShowStanding();
 }
 
@@ -90,7 +90,7 @@ void MainWindow::FollowNewGame() {
   FollowClock();
   ShowPlayerPanels();
   DrawDiceStats();
-  core::CalcPoints(State.game, *this);
+  core::CalcPoints(State, *this);
 }
 
 /// Of a kind of game that only a file can bring nothing is known: the die stays as it is.

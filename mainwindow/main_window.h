@@ -18,7 +18,7 @@
 #include "../platform/desktop.h"
 #include "../platform/services.h"
 #include "../printing/f10_print.h"
-#include "../storage/game_file_reader.h"
+#include "../storage/game_file.h"
 #include "commands.h"
 #include "f1.h"
 

@@ -14,14 +14,14 @@ void MainWindow::F1_mnuFilePrint_Click() { F10.OpenPrint(); }
 void MainWindow::F1_mnuFileQuit_Click() { SaveSettings(); }
 
 void MainWindow::F1_mnuExtraZS_Click() {
-  State.game.GameWon = false;
+  State.asked.GameWon = false;
   F9.ShowStanding();
 }
 
 void MainWindow::F1_mnuSpecialLHS_Click() {
   core::TakeLongestRoad(State.game);
   services_.MessageBox(State.Text(107));
-  core::CalcPoints(State.game, *this);
+  core::CalcPoints(State, *this);
 }
 
 void MainWindow::F1_mnuExtraDelLastW_Click() {

@@ -1,12 +1,11 @@
-// Games and settings from and to files. A failure of a game file ends its command without a word; what was done so far
-// stays.
+// Games and settings from and to files. A failure while loading a game ends the command without a word; what was done
+// so far stays.
 #include "../core/new_game.h"
 #include "../core/points.h"
 #include "../platform/mnemonic.h"
 #include "../storage/game_file.h"
-#include "../storage/game_file_reader.h"
-#include "../storage/regular_file.h"
 #include "../storage/settings_file.h"
+#include "../storage/text_lines.h"
 #include "../windows/dialog.h"
 #include "main_window.h"
 
@@ -33,7 +32,11 @@ bool MainWindow::ChooseFile(int titleText, std::string filter, bool opens) {
 void MainWindow::SaveGame() {
   const std::string filter = State.Text(109) + kGameFiles;
   if (!ChooseFile(kSaveTitle, filter, false)) return;
-  storage::WriteWhole(cmdLS_.FileName, storage::GameFileText(State));
+  const auto written = storage::WriteWhole(cmdLS_.FileName, storage::GameFileText(State));
+  if (written) return;
+  const std::string where = cmdLS_.FileName + " (" + written.Cause.message() + ")";
+  services_.MessageBox("Das Spiel konnte nicht gespeichert werden:\n" + where + "\n\nThe game could not be saved:\n" +
+                       where);
 }
 
 void MainWindow::LoadGame() {
@@ -42,7 +45,7 @@ void MainWindow::LoadGame() {
   std::ifstream file = storage::OpenRegularFile(cmdLS_.FileName);
   if (!file.is_open() || storage::ReadGame(file, State, *this) != storage::GameFileOutcome::Whole) return;
   ShowPlayerPanels();
-  core::CalcPoints(State.game, *this);
+  core::CalcPoints(State, *this);
   DrawDiceStats();
 }
 

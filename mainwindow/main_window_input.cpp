@@ -37,19 +37,19 @@ void MainWindow::F1_Form_KeyUp(platform::KeyCode code, platform::Modifiers with)
   }
   if (isSeat && !KeyOfSeat(seat)) return;
   if (const int die = core::DieOfKey(code)) F7.OpenDiceDialogByKey(die);
-  core::ClampPoints(State.game);
+  core::ClampPoints(State.figures);
 }
 
 /// The key of a seat; false if nobody plays there. The first two seats always play.
 bool MainWindow::KeyOfSeat(int seat) {
-  State.game.CurrentPlayer = static_cast<std::int16_t>(seat);
+  State.asked.CurrentPlayer = static_cast<std::int16_t>(seat);
   if (seat > 2 && !State.game.Players[seat].Active) return false;
   F4.OpenActionDialog(seat);
   return true;
 }
 
 void MainWindow::PrepareDataDialog(int seat) {
-  State.game.DataPlayer = static_cast<std::int16_t>(seat);
+  State.asked.DataPlayer = static_cast<std::int16_t>(seat);
   F5.PrepareDataDialog();
 }
 

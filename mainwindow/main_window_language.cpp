@@ -4,7 +4,7 @@
 
 #include "../platform/mnemonic.h"
 #include "../storage/language_file.h"
-#include "../storage/regular_file.h"
+#include "../storage/text_lines.h"
 #include "main_window.h"
 
 namespace mainwindow {

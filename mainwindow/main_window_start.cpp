@@ -23,7 +23,7 @@ Started MainWindow::Load() {
   F7.SetPictures();
   CentreDialogs();
   core::StopClocks(State);
-  core::CalcPoints(State.game, *this);
+  core::CalcPoints(State, *this);
   ShowPlayerPanels();
   DrawDiceStats();
   F1.Visible = true;

@@ -40,8 +40,8 @@ void PaintSymbols(const core::TPlayer& player, Surface& panel) {
 }
 
 void PaintPanel(const State& state, int seat, Surface& panel) {
-  const int points = state.game.PlayerPoints[seat];
-  panel.ForeColor = state.game.LeaderFlag[seat] ? kLeading : kFollowing;
+  const int points = state.figures.PlayerPoints[seat];
+  panel.ForeColor = state.figures.LeaderFlag[seat] ? kLeading : kFollowing;
   panel.Cls();
   PaintSymbols(state.game.Players[seat], panel);
   Write(panel, 8, false, kTextX, kLabelY, state.Text(16) + " " + std::to_string(seat));
@@ -51,9 +51,9 @@ void PaintPanel(const State& state, int seat, Surface& panel) {
 
 /// Seat, name and points; a leader by the rank.
 std::string SpokenPanel(const State& state, int seat) {
-  const std::string rank = state.game.LeaderFlag[seat] ? " (1.)" : "";
+  const std::string rank = state.figures.LeaderFlag[seat] ? " (1.)" : "";
   return state.Text(16) + " " + std::to_string(seat) + ": " + state.game.Players[seat].Name + ", " +
-         std::to_string(state.game.PlayerPoints[seat]) + " " + state.Text(71) + rank;
+         std::to_string(state.figures.PlayerPoints[seat]) + " " + state.Text(71) + rank;
 }
 
 }  // namespace
@@ -61,7 +61,7 @@ std::string SpokenPanel(const State& state, int seat) {
 void PaintPanels(const State& state, platform::Services& services, F1& f1) {
   for (int seat = 1; seat <= core::kSeats; ++seat) {
     platform::PictureBox& panel = f1.picSP(seat - 1);
-    const auto ground = PanelPicture(state.settings.HG, seat, state.game.LeaderFlag[seat]);
+    const auto ground = PanelPicture(state.settings.HG, seat, state.figures.LeaderFlag[seat]);
     if (services.CanShow(ground)) panel.Image = ground;
     PaintPanel(state, seat, panel.Drawing);
     panel.SpokenName = SpokenPanel(state, seat);

@@ -58,7 +58,7 @@ void DrawPlayer(const State& state, int seat, Surface& page) {
     page.PaintPicture(windows::imlIcons.Image(symbol), x, top + 1);
     x += kSymbolPitch;
   }
-  const int points = state.game.PlayerPoints[seat];
+  const int points = state.figures.PlayerPoints[seat];
   const int pointsX = points > 9 ? 620 : 700;
   page.FontSize = 18;
   page.FontBold = true;
@@ -78,40 +78,40 @@ void DrawHeads(const State& state, Surface& page) {
 }
 
 /// The measured bar between two rails that reach as far as it should, closed at their end.
-void DrawBars(const core::Game& game, int sum, int y, int barUnit, Surface& page) {
-  const double end = kBarX + core::RoundHalfEven(game.TotalRolls * barUnit * core::TheoryShare(sum) / 100);
-  const double bar = kBarX + game.DiceCount[sum] * barUnit;
+void DrawBars(const State& state, int sum, int y, int barUnit, Surface& page) {
+  const double end = kBarX + core::RoundHalfEven(state.figures.TotalRolls * barUnit * core::TheoryShare(sum) / 100);
+  const double bar = kBarX + state.game.DiceCount[sum] * barUnit;
   page.FillBox(kBarX, y, end, y + 10, kExpected);
   page.FillBox(kBarX, y + 90, end, y + 80, kExpected);
-  page.FillBox(kBarX, y + 10, bar, y + 80, core::IsAboveShare(game, sum) ? kMoreOften : kNotMoreOften);
+  page.FillBox(kBarX, y + 10, bar, y + 80, core::IsAboveShare(state.figures, sum) ? kMoreOften : kNotMoreOften);
   page.FillBox(end, y, end, y + 90, kExpected);
 }
 
 void DrawRows(const State& state, const std::string& separator, Surface& page) {
-  const core::Game& game = state.game;
-  const int barUnit = game.MaxDiceCount > 0 ? kFullBar / game.MaxDiceCount : kFullBar;
+  const core::Figures& figures = state.figures;
+  const int barUnit = figures.MaxDiceCount > 0 ? kFullBar / figures.MaxDiceCount : kFullBar;
   for (int sum = core::kLowestSum; sum <= core::kHighestSum; ++sum) {
     const int y = kRowsY + (sum - 1) * kRowPitch;
     Write(page, 14, false, kSumX, y, std::to_string(sum));
-    page.PrintWithin(kCountX, y, kCountRoom, std::to_string(game.DiceCount[sum]) + " " + state.Text(26));
-    page.PrintAt(kMeasuredX, y, core::PercentText(game.DicePercent[sum], separator));
+    page.PrintWithin(kCountX, y, kCountRoom, std::to_string(state.game.DiceCount[sum]) + " " + state.Text(26));
+    page.PrintAt(kMeasuredX, y, core::PercentText(figures.DicePercent[sum], separator));
     page.PrintAt(kTheoryX, y, core::PlainText(core::DiceProbability[sum], separator) + "%");
-    DrawBars(game, sum, y, barUnit, page);
+    DrawBars(state, sum, y, barUnit, page);
   }
 }
 
-void DrawEventDie(const core::Game& game, Surface& page) {
+void DrawEventDie(const State& state, Surface& page) {
   for (int face = 1; face <= core::kEventFaces; ++face) {
     const int x = kEventX + (face - 1) * kEventPitch;
     page.PaintPicture(windows::imlW.Image(face + windows::kBeforeEventFaces), x, kFootY);
-    const int count = game.EventCount[face];
+    const int count = state.game.EventCount[face];
     Write(page, 10, false, x + kEventTextX, kFootY, std::to_string(count) + "x");
-    page.PrintAt(x + kEventTextX, kEventShareY, std::to_string(core::EventPercent(game, face)) + "%");
+    page.PrintAt(x + kEventTextX, kEventShareY, std::to_string(core::EventPercent(state, face)) + "%");
   }
 }
 
 void DrawTotal(const State& state, Surface& page) {
-  const int total = state.game.TotalRolls;
+  const int total = state.figures.TotalRolls;
   Write(page, 14, false, kMargin, kFootY, state.Text(26));
   Write(page, 25, false, total > 9 ? 400 : 350, kTotalY, std::to_string(total) + "x");
 }
@@ -124,7 +124,7 @@ void DrawGameReport(const State& state, const std::string& decimalSeparator, Sur
   page.Cls();
   DrawHeads(state, page);
   DrawRows(state, decimalSeparator, page);
-  if (core::HasEventDie(state.game)) DrawEventDie(state.game, page);
+  if (core::HasEventDie(state.game)) DrawEventDie(state, page);
   DrawTotal(state, page);
 }
 

@@ -4,7 +4,7 @@
 #include <regex>
 #include <utility>
 
-#include "line_reader.h"
+#include "text_lines.h"
 
 namespace storage {
 namespace {

@@ -11,7 +11,7 @@ class Places {
   /// The folders of the executable, of the user's settings of all programs and of the user's documents.
   Places(std::filesystem::path program, std::filesystem::path configuration, std::filesystem::path documents);
 
-  /// The folder of the files that come with the program. Called by all that read one.
+  /// The folder of the files that come with the program.
   const std::filesystem::path& ProgramFiles() const { return files_; }
 
   /// The language file to read. That of an installed program gives way to one of the user's own, beside the settings,

@@ -19,7 +19,7 @@ enum class WriteFailure {
   Other,
 };
 
-struct WriteOutcome {
+struct [[nodiscard]] WriteOutcome {
   WriteFailure Failure = WriteFailure::None;
   std::error_code Cause;  ///< the system's own word on it
 
@@ -29,7 +29,7 @@ struct WriteOutcome {
 /// Writes a new file beside the old one and puts it in its place once all bytes are safe on the disk; the old file's
 /// rights are kept, a link is followed. Success is told only when all of this is done. After a failure the old file is
 /// whole and nothing else is left, with one exception: where only the folder could not be synced at the very end, the
-/// new file is in place. Called by the commands that save and by the quit.
+/// new file is in place.
 WriteOutcome WriteWhole(const std::filesystem::path& file, std::string_view bytes);
 
 /// Whether WriteWhole may put a file there, as far as can be told without writing. A disk with a fault forbids nothing:

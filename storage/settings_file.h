@@ -15,10 +15,10 @@ namespace storage {
 std::string SettingsText(const core::State& state);
 
 /// Takes over what the file says, over what holds already. False where the reading ended before the file did, or within
-/// an entry; all that was read before stands. Called by the start-up, which has set the defaults.
+/// an entry; all that was read before stands.
 bool ReadSettings(std::istream& file, core::State& state);
 
-/// Writes the file, and makes its folder if there is none. Called by the quit.
+/// Writes the file, and makes its folder if there is none.
 WriteOutcome WriteSettings(const std::filesystem::path& file, const core::State& state);
 
 }  // namespace storage

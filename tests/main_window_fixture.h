@@ -64,6 +64,8 @@ class MainWindowTest : public TemporaryFolder {
   ScriptedServices services{MakeNumberedProgram(Folder)};
   mainwindow::MainWindow window{services};
   core::Game& game = window.State.game;
+  core::Figures& figures = window.State.figures;
+  core::Asked& asked = window.State.asked;
   core::Entry& entry = window.State.entry;
   core::Settings& settings = window.State.settings;
 };

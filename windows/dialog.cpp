@@ -26,7 +26,7 @@ void Dialog::Leave(const std::function<void()>& last) {
 }
 
 void Dialog::LeaveAndScore() {
-  Leave([this] { core::CalcPoints(state().game, screen()); });
+  Leave([this] { core::CalcPoints(state(), screen()); });
 }
 
 }  // namespace windows

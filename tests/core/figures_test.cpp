@@ -12,11 +12,12 @@ namespace {
 using testing::ElementsAre;
 using Counts = core::Numbered<std::int16_t, 13>;
 
-core::Game GameOf(const Counts& counts) {
+core::Figures FiguresOf(const Counts& counts) {
   core::Game game;
   game.DiceCount = counts;
-  core::ComputeDiceFigures(game);
-  return game;
+  core::Figures figures;
+  core::ComputeDiceFigures(game, figures);
+  return figures;
 }
 
 TEST(DiceStatsTest, BarUnitFillsTheRoomAndKeepsTheMarkerInside) {
@@ -27,16 +28,16 @@ TEST(DiceStatsTest, BarUnitFillsTheRoomAndKeepsTheMarkerInside) {
       {"only negative counts", {0, 0, -5, -5, -5, -5, -5, -5, -5, -5, -5, -5, -5}, 300, -2748},
       {"counts that cancel out", {0, 0, 5, -5}, 60, 0}};
   for (const auto& [what, counts, unit, markerOf7] : cases) {
-    EXPECT_EQ(core::ChartBarUnit(GameOf(counts)), unit) << what;
-    EXPECT_EQ(core::ChartMarkerLength(GameOf(counts), unit, 7), markerOf7) << what;
+    EXPECT_EQ(core::ChartBarUnit(FiguresOf(counts)), unit) << what;
+    EXPECT_EQ(core::ChartMarkerLength(FiguresOf(counts), unit, 7), markerOf7) << what;
   }
 }
 
 TEST(DiceStatsTest, ExactShareOfASumCountsAsAboveAndALittleLessDoesNot) {
-  const core::Game exact = GameOf({0, 0, 1, 2, 3, 4, 5, 6, 5, 4, 3, 2, 1});
+  const core::Figures exact = FiguresOf({0, 0, 1, 2, 3, 4, 5, 6, 5, 4, 3, 2, 1});
   for (int sum = 2; sum <= 12; ++sum) EXPECT_TRUE(core::IsAboveShare(exact, sum)) << sum;
-  EXPECT_FALSE(core::IsAboveShare(GameOf({0, 0, 2, 2, 3, 4, 5, 6, 5, 4, 3, 2, 1}), 7));
-  core::Game itself;
+  EXPECT_FALSE(core::IsAboveShare(FiguresOf({0, 0, 2, 2, 3, 4, 5, 6, 5, 4, 3, 2, 1}), 7));
+  core::Figures itself;
   itself.DicePercent[7] = 16.66F;
   EXPECT_FALSE(core::IsAboveShare(itself, 7));
 }

@@ -18,14 +18,14 @@ TEST(StartGame, BeginsAllSeatsAnewAndClearsTheCountsButKeepsTheLog) {
   game.EventCount.fill(8);
   game.DiceLog.fill({1, 2, 3});
   game.Clock = {500, 50};
-  game.GameWon = true;
+  state.asked.GameWon = true;
   StartGame(state, {3, kFirstExpansion, 15, {"", "Ada", "Bo", "", "Dora", "Emil", "Fritz"}, kOn, kOff, "", ""});
   EXPECT_EQ(game.Players[2], (TPlayer{.Name = "Bo", .Settlements = 1, .Cities = 1, .Active = true}));
   EXPECT_EQ(game.Players[6], (TPlayer{.Name = "P6", .Settlements = 1, .Cities = 1}));
   EXPECT_THAT(game.EventCount, testing::ElementsAre(8, 0, 0, 0, 0)) << "rolls without event die stay";
   EXPECT_THAT(WithoutPlaceZero(game.DiceCount), Each(0));
   EXPECT_THAT(game.Clock, Each(0));
-  EXPECT_TRUE(game.ClockRunning && game.GameWon);
+  EXPECT_TRUE(game.ClockRunning && state.asked.GameWon);
   EXPECT_THAT(game.DiceLog, Each(TRoll{1, 2, 3}));
 }
 

@@ -13,13 +13,12 @@ using tests::SeatedGame;
 /// What the action makes of so many settlements, cities and bonus points: "5 0 0", or the refusal's texts: "57/59".
 std::string After(std::int16_t code, const std::array<std::int16_t, 3>& pieces) {
   Game game;
+  const Asked asked{.CurrentPlayer = 6, .ActionCode = code};
   TPlayer& player = game.Players[6];
   std::tie(player.Settlements, player.Cities, player.BonusPoints) = std::tuple_cat(pieces);
-  game.CurrentPlayer = 6;
-  game.ActionCode = code;
   const TPlayer before = player;
   const auto number = [](int value) { return std::to_string(value); };
-  const auto refusal = ApplyPlayerAction(game);
+  const auto refusal = ApplyPlayerAction(game, asked);
   EXPECT_TRUE(!refusal || player == before);
   if (refusal) return number(refusal->MessageText) + "/" + number(refusal->TitleText);
   return number(player.Settlements) + " " + number(player.Cities) + " " + number(player.BonusPoints);
@@ -40,10 +39,9 @@ TEST(PlayerActions, GiveEachTitleToOneSeatAlone) {
     Game game = SeatedGame(3, true);
     auto expected = game.Players;
     for (TPlayer& player : expected) player.*kTitles[title] = player.Name == "P6";
-    game.ActionCode = static_cast<std::int16_t>(kLongestRoad + title);
-    game.CurrentPlayer = 6;
-    ApplyPlayerAction(game);
-    EXPECT_EQ(game.Players, expected) << "action " << game.ActionCode;
+    const Asked asked{.CurrentPlayer = 6, .ActionCode = static_cast<std::int16_t>(kLongestRoad + title)};
+    ApplyPlayerAction(game, asked);
+    EXPECT_EQ(game.Players, expected) << "action " << asked.ActionCode;
   }
 }
 

@@ -19,10 +19,11 @@ TEST(Points, AddUpAllHoldingsOfEverySeatWhetherItPlaysOrNot) {
     withPieces.Players[seat] = {.Name = "", .Settlements = settlements, .Cities = cities, .BonusPoints = bonusPoints};
     withTitles.Players[seat].*kTitles[seat - 1] = true;  // no city under the metropolises
   }
-  ComputePoints(withPieces);
-  ComputePoints(withTitles);
-  EXPECT_THAT(withPieces.PlayerPoints, ElementsAre(0, 2, 3, 16, -7, 32767, -32768));
-  EXPECT_THAT(withTitles.PlayerPoints, ElementsAre(0, 2, 2, 2, 2, 2, 1));
+  Figures ofPieces, ofTitles;
+  ComputePoints(withPieces, ofPieces);
+  ComputePoints(withTitles, ofTitles);
+  EXPECT_THAT(ofPieces.PlayerPoints, ElementsAre(0, 2, 3, 16, -7, 32767, -32768));
+  EXPECT_THAT(ofTitles.PlayerPoints, ElementsAre(0, 2, 2, 2, 2, 2, 1));
 }
 
 TEST(Winner, IsTheFirstLeaderWithThePointsToWinWhileOneIsToBeShown) {
@@ -34,8 +35,8 @@ TEST(Winner, IsTheFirstLeaderWithThePointsToWinWhileOneIsToBeShown) {
                                                                     {{0, 2, 2, 2, 2, 2, 12}, false, 0}};
   for (const auto& [points, show, winner] : cases) {
     State state;
-    state.game.PlayerPoints = points;
-    FindLeaders(state.game);
+    state.figures.PlayerPoints = points;
+    FindLeaders(state.figures);
     state.game.WinPoints = 10;
     state.settings.ShowWinner = show;
     EXPECT_EQ(WinningSeat(state).value_or(0), winner) << winner;

@@ -12,7 +12,7 @@ struct PlayerActionTest : MainWindowTest {
   void OpenFor(std::int16_t gameType, std::int16_t settlements = 2, std::int16_t cities = 1) {
     game.GameType = gameType;
     game.Players[2] = {.Name = "Ben", .Settlements = settlements, .Cities = cities, .Active = true};
-    core::CalcPoints(game, window);
+    core::CalcPoints(window.State, window);
     Press(platform::FunctionKey(2));
     ASSERT_TRUE(Locking(F4));
   }
@@ -25,13 +25,15 @@ TEST_F(PlayerActionTest, EachKeyAndButtonReportsItsActionWhereTheKindOfGameOffer
       for (const bool byKey : {true, false}) {
         OpenFor(gameType);
         core::Game expected = game;
-        expected.ActionCode = static_cast<std::int16_t>(action);
+        core::Figures points;
         const bool offered = core::ActionOffered(gameType, action);
-        if (offered) core::ApplyPlayerAction(expected);
-        core::ComputePoints(expected);
+        if (offered)
+          core::ApplyPlayerAction(
+              expected, {.CurrentPlayer = asked.CurrentPlayer, .ActionCode = static_cast<std::int16_t>(action)});
+        core::ComputePoints(expected, points);
         Report(action, byKey);
         EXPECT_EQ(game.Players, expected.Players) << action << " in a game of kind " << gameType;
-        EXPECT_EQ(game.PlayerPoints, expected.PlayerPoints);
+        EXPECT_EQ(figures.PlayerPoints, points.PlayerPoints);
         EXPECT_EQ(Closed(F4), byKey || offered) << "a disabled button takes no click";
         LeaveAll();
       }
@@ -48,10 +50,10 @@ TEST_F(PlayerActionTest, EveryOtherKeyClosesWithoutActionAndLeavingLetsThePoints
       {"close box", [&] { F4.PressCloseBox(); }, false}};
   for (const auto& [what, act, recalculates] : cases) {
     OpenFor(core::kBaseGame);
-    game.PlayerPoints[2] = 50;
+    figures.PlayerPoints[2] = 50;
     act();
     EXPECT_TRUE(Closed(F4) && game.Players[2].Settlements == 2) << what;
-    EXPECT_EQ(game.PlayerPoints[2], recalculates ? 4 : 50) << what;
+    EXPECT_EQ(figures.PlayerPoints[2], recalculates ? 4 : 50) << what;
   }
 }
 
@@ -157,7 +159,7 @@ TEST_F(PlayerDataTest, TabTurnsEachFlagOnWhichItLands) {
 TEST_F(PlayerDataTest, LeavingCountsThePoints) {
   Open();
   Enter(8, "10");
-  EXPECT_EQ(game.PlayerPoints[1], 2);
+  EXPECT_EQ(figures.PlayerPoints[1], 2);
   Click(F5.cmdOK);
   EXPECT_TRUE(!F5.Visible && Locking(window.F9)) << "the points to win are reached";
 }

@@ -20,8 +20,8 @@ struct StandingTest : MainWindowTest {
 
 TEST_F(StandingTest, HeadlineNamesTheWinnerUntilTheStandingIsAskedFor) {
   for (const bool won : {true, false, true}) {
-    won ? core::CalcPoints(game, window) : Press('T', kCtrl);
-    EXPECT_TRUE(Locking(F9) && game.GameWon == won);
+    won ? core::CalcPoints(window.State, window) : Press('T', kCtrl);
+    EXPECT_TRUE(Locking(F9) && asked.GameWon == won);
     Click(F9.optWinOrder(0));  // the view changes no headline
     EXPECT_EQ(F9.lblSiegertext.Caption.Get(), won ? "Ada T88" : "T87");
     Key(F9, platform::kKeyEnter);

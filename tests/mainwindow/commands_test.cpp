@@ -82,7 +82,7 @@ TEST_F(CommandsTest, ATallFrameLeavesTheClocksInTheWindow) {
 TEST_F(CommandsTest, TheLongestRoadIsTakenFromItsHolder) {
   game.Players[2].LongestRoad = game.Players[2].LargestArmy = true;
   Choose("mnuSpecialLHS");
-  EXPECT_TRUE(!game.Players[2].LongestRoad && game.PlayerPoints[2] == 4);
+  EXPECT_TRUE(!game.Players[2].LongestRoad && figures.PlayerPoints[2] == 4);
 }
 
 TEST_F(CommandsTest, KeysWithAndWithoutModifiers) {
@@ -102,15 +102,15 @@ TEST_F(CommandsTest, KeysWithAndWithoutModifiers) {
       {platform::kKeyNumberPad0 + 3, {}, 0, 0, 0, true}};
   for (const auto& [key, with, current, data, die, clamps] : cases) {
     for (const int seat : {2, 3}) game.Players[seat].Active = false;
-    game.CurrentPlayer = game.DataPlayer = entry.Die1 = 0;
-    game.PlayerPoints[1] = -1;
-    game.PlayerPoints[5] = 32767;
+    asked.CurrentPlayer = asked.DataPlayer = entry.Die1 = 0;
+    figures.PlayerPoints[1] = -1;
+    figures.PlayerPoints[5] = 32767;
     Press(key, with);
-    EXPECT_EQ(std::tuple(game.CurrentPlayer, game.DataPlayer, entry.Die1, window.F7.Visible.Get()),
+    EXPECT_EQ(std::tuple(asked.CurrentPlayer, asked.DataPlayer, entry.Die1, window.F7.Visible.Get()),
               std::tuple(current, data, die, die > 0))
         << key;
-    EXPECT_EQ(game.PlayerPoints[1], clamps ? 0 : -1) << key;
-    EXPECT_EQ(game.PlayerPoints[5], clamps ? 99 : 32767) << key;
+    EXPECT_EQ(figures.PlayerPoints[1], clamps ? 0 : -1) << key;
+    EXPECT_EQ(figures.PlayerPoints[5], clamps ? 99 : 32767) << key;
     LeaveAll();
   }
 }
@@ -128,10 +128,10 @@ TEST_F(CommandsTest, MouseOnDiceAndPanelsAndTheCloseBox) {
   Press(FunctionKey(9));
   EXPECT_EQ(game.DiceLog[2], (core::TRoll{4, 6, 4}));
   Click(F1.picSP(3), MouseButton::Middle);
-  EXPECT_EQ(game.CurrentPlayer, 4);
+  EXPECT_EQ(asked.CurrentPlayer, 4);
   Click(window.F4.cmdNix);
   Click(F1.picSP(2), MouseButton::Right);
-  EXPECT_EQ(game.DataPlayer, 3);
+  EXPECT_EQ(asked.DataPlayer, 3);
   LeaveAll();
   F1.PressCloseBox();
   EXPECT_TRUE(services.QuitStatus == 0 && services.Boxes.empty()) << "it ends at once without a question";

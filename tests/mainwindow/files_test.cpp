@@ -35,8 +35,8 @@ TEST_F(FilesTest, AGameComesBackWithPanelsChartAndEventDie) {
   Choose("mnuFileSaveAs");
   const auto later = Loaded();
   EXPECT_EQ(storage::GameFileText(later->State), storage::GameFileText(window.State));
-  EXPECT_TRUE(later->State.game.NumPlayers == 5 && later->State.game.TotalRolls == 1);
-  EXPECT_TRUE(later->State.game.LeaderFlag[5] && later->F1.picSP(4).Visible && later->F1.picWurfel(2).Visible);
+  EXPECT_TRUE(later->State.game.NumPlayers == 5 && later->State.figures.TotalRolls == 1);
+  EXPECT_TRUE(later->State.figures.LeaderFlag[5] && later->F1.picSP(4).Visible && later->F1.picWurfel(2).Visible);
 }
 
 TEST_F(FilesTest, ALoadBringsTheThemeOfItsGameUnlessTheUserChoosesIt) {

@@ -29,7 +29,7 @@ TEST_F(StartTest, OpensAsABaseGameOfFourWithoutRollsAndDialogsOverItsMiddle) {
   const core::Game& fresh = later.State.game;
   EXPECT_TRUE(later.F1.Visible && services.Boxes.empty() && !fresh.ClockRunning && fresh.Clock[0] == 0);
   EXPECT_TRUE(fresh.GameType == 2 && fresh.WinPoints == 10 && fresh.NumPlayers == 4);
-  EXPECT_THAT(fresh.PlayerPoints, testing::ElementsAre(0, 2, 2, 2, 2, 2, 2));
+  EXPECT_THAT(later.State.figures.PlayerPoints, testing::ElementsAre(0, 2, 2, 2, 2, 2, 2));
   // (9495 - 5160) / 2 and (8355 + 301 + menu bar - 2910) / 2, rests dropped
   const platform::Place place = later.F7.Position;
   EXPECT_EQ(std::pair(place.Left, place.Top), std::pair(2167, (5746 + later.F1.MenuBarHeight) / 2));
@@ -80,7 +80,7 @@ TEST_F(StartTest, SettingsChooseTheThemeOfTheStart) {
 TEST_F(StartTest, LeadersHaveAGroundOfTheirOwnOnHiddenSeatsTooAndAMissingOneLeavesTheOld) {
   services.MissingPictures = {"img/basis_s1.jpg"};
   game.Players[2].BonusPoints = game.Players[6].BonusPoints = 3;
-  core::CalcPoints(game, window);
+  core::CalcPoints(window.State, window);
   std::string grounds;
   for (const int panel : {0, 1, 2, 5}) grounds += window.F1.picSP(panel).Image.Get().Name + " ";
   EXPECT_EQ(grounds, "img/basis_s1_high.jpg img/basis_s2_high.jpg img/basis_s3.jpg img/basis_s6_high.jpg ");

@@ -39,13 +39,13 @@ class Pictures : public MainWindowTest {
     game.Clock = {3660, 58};
     window.F1.picWurfel(2).Visible = true;
     window.ShowPlayerPanels();
-    core::CalcPoints(game, window);
+    core::CalcPoints(window.State, window);
   }
   void PlayBaseGame() {
     PlayExpansion();
     game.GameType = core::kBaseGame;
     window.F1.picWurfel(2).Visible = false;
-    core::CalcPoints(game, window);
+    core::CalcPoints(window.State, window);
   }
   void Roll(const core::TRoll& roll) {
     entry = {roll.Die1, roll.Die2, roll.EventDie, 2};
@@ -149,7 +149,7 @@ TEST_F(Pictures, Settings) {
 TEST_F(Pictures, Standing) {
   PlayBaseGame();
   game.WinPoints = 12;
-  core::CalcPoints(game, window);
+  core::CalcPoints(window.State, window);
   std::string lines = Described(window.F9);
   Click(window.F9.optWinOrder(0));
   lines += Drawing(window.F9.picRanking.Drawing);

@@ -26,7 +26,7 @@ using Input = tests::RealWindows;
 
 TEST_F(Input, ClicksOnPicturesCarryTheirButtonAndCountOnlyInside) {
   for (const Qt::MouseButton button : {Qt::MiddleButton, Qt::RightButton}) Click(Window.F1.picWurfel(1), button);
-  EXPECT_EQ(Window.State.game.TotalRolls, 1);
+  EXPECT_EQ(Window.State.figures.TotalRolls, 1);
   QWidget& die = WidgetOf(Window.F1.picWurfel(0));
   const QPoint at = die.mapTo(die.window(), die.rect().center());
   QTest::mousePress(die.window()->windowHandle(), Qt::LeftButton, {}, at);
@@ -42,7 +42,7 @@ TEST_F(Input, KeysAreTheFormsAgainOnceTheMenuWasLeft) {
     QTest::keyClick(popup ? popup : QApplication::focusWidget(), Qt::Key_Escape);
   }
   Type(Window.F1, Qt::Key_F9);
-  EXPECT_EQ(Window.State.game.TotalRolls, 1);
+  EXPECT_EQ(Window.State.figures.TotalRolls, 1);
 }
 
 TEST_F(Input, WhatTabOrTheProgramBringsIntoFocusMakesWayForTheNextKey) {

@@ -26,11 +26,11 @@ TEST_F(Lock, KeepsKeysAndMouseOutAndDoesNotLookGreyed) {
   main.close();
   EXPECT_TRUE(main.isVisible() && Services.QuitStatus == -1);
   EXPECT_TRUE(main.isEnabled() && WidgetOf(Window.F1.tbrMenu).isEnabled());
-  EXPECT_TRUE(Window.State.game.TotalRolls == 0 && !Window.F20.Visible);
+  EXPECT_TRUE(Window.State.figures.TotalRolls == 0 && !Window.F20.Visible);
   WindowOf(Window.F7).close();
   EXPECT_FALSE(WindowOf(Window.F7).isVisible());
   Type(Window.F1, Qt::Key_F9);
-  EXPECT_EQ(Window.State.game.TotalRolls, 1);
+  EXPECT_EQ(Window.State.figures.TotalRolls, 1);
 }
 
 TEST_F(Lock, AClickThatTookTheKeyboardGivesItBack) {

@@ -172,20 +172,22 @@ class RandomEvening : public TemporaryFolder, public testing::WithParamInterface
     const auto outside = [](int value, int lowest, int highest) { return value < lowest || value > highest; };
     if (outside(window.State.entry.DiceEntryStage, 0, window.F7.Visible ? 2 : 0)) return "DiceEntryStage";
     if (outside(game.NumPlayers, 2, 6) || outside(game.GameType, 2, 3)) return "kind of game or number of players";
-    if (outside(game.CurrentPlayer, 0, 6) || outside(game.DataPlayer, 0, 6)) return "seat of a dialog";
+    if (outside(window.State.asked.CurrentPlayer, 0, 6) || outside(window.State.asked.DataPlayer, 0, 6))
+      return "seat of a dialog";
     if (outside(window.State.settings.HG, 1, 3)) return "theme";
     if (chance.ScreenAwake != game.ClockRunning) return "the screen does not follow the clock";
-    core::Game anew = game;
-    core::ComputePoints(anew);
+    core::Figures anew;
+    core::ComputePoints(game, anew);
     core::ClampPoints(anew);
     if (game.GameType == core::kFirstExpansion) seen.insert("expansion");
     if (window.F5.Visible) return "";  // it changes the holdings at once, the points when it is left
-    return anew.PlayerPoints == game.PlayerPoints ? "" : "the points are not those of the holdings";
+    return anew.PlayerPoints == window.State.figures.PlayerPoints ? "" : "the points are not those of the holdings";
   }
   /// No file was loaded, so the log tells all that the counts say.
   std::string LogOffence() {
     const int total = std::accumulate(game.DiceCount.begin(), game.DiceCount.end(), 0);
-    if (total > core::kLoggedRolls || total != game.TotalRolls) return "TotalRolls " + std::to_string(total);
+    if (total > core::kLoggedRolls || total != window.State.figures.TotalRolls)
+      return "TotalRolls " + std::to_string(total);
     if (total == core::kLoggedRolls) seen.insert("full log");
     decltype(game.DiceCount) sums{};
     decltype(game.EventCount) faces{game.EventCount[0]};  // which nothing resets

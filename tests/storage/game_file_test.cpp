@@ -6,7 +6,6 @@
 
 #include <sstream>
 
-#include "../../storage/game_file_reader.h"
 #include "random_state.h"
 
 namespace tests {

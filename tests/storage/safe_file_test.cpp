@@ -142,7 +142,7 @@ TEST_F(SafeFileTest, FollowsLinksAndKeepsRights) {
   EXPECT_TRUE(std::filesystem::is_symlink(File) && std::filesystem::is_symlink(Folder / "link"));
   EXPECT_THAT(Names("far"), ElementsAre("target"));
   const mode_t mask = umask(027);
-  storage::WriteWhole(Folder / "fresh", "x");
+  EXPECT_TRUE(storage::WriteWhole(Folder / "fresh", "x"));
   umask(mask);
   EXPECT_EQ(Rights(Folder / "fresh"), 0640U);
 }
@@ -153,7 +153,8 @@ TEST_F(SafeFileTest, KilledAtAnyMomentOneWholeFileIsThere) {
   for (int round = 0; round < 30; ++round) {
     const pid_t child = fork();
     if (child == 0) {
-      for (int i = 0;; ++i) storage::WriteWhole(File, versions[i % 2]);
+      for (int i = 0; storage::WriteWhole(File, versions[i % 2]); ++i) continue;
+      _exit(1);
     }
     std::this_thread::sleep_for(std::chrono::microseconds(500 + (round * 7919) % 20'000));
     kill(child, SIGKILL);

@@ -6,7 +6,7 @@
 #include <sstream>
 
 #include "../../core/new_game.h"
-#include "../../storage/regular_file.h"
+#include "../../storage/text_lines.h"
 #include "temporary_folder.h"
 
 namespace tests {
@@ -15,7 +15,6 @@ namespace {
 core::State AtStart() {
   core::State state;
   core::SetDefaults(state);
-  core::SetSettingsDefaults(state);
   return state;
 }
 

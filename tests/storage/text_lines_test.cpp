@@ -4,7 +4,7 @@
 #include <sstream>
 
 #include "../../storage/code_page.h"
-#include "../../storage/line_reader.h"
+#include "../../storage/text_lines.h"
 
 namespace tests {
 namespace {

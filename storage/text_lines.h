@@ -1,12 +1,20 @@
-// Reads a text file of the program line by line, from the code page into UTF-8. A file that is none, or that the
-// machine cannot read to its end, costs neither time nor memory nor an exception: it ends where it went wrong.
+// The program's text files as lines: opened, read from the code page into UTF-8 and written back, and the words in them
+// that stand for a flag. A file that is none, or that the machine cannot read to its end, costs neither time nor memory
+// nor an exception: it ends where it went wrong.
 #pragma once
 
+#include <filesystem>
+#include <fstream>
 #include <istream>
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace storage {
+
+/// A stream of the file's bytes; not open if there is no such file or something else bears the name: a folder, a device
+/// or a pipe would answer with errors, without an end, or never.
+std::ifstream OpenRegularFile(const std::filesystem::path& file);
 
 /// No more bytes than these are read of a file; none of the program comes near it.
 inline constexpr std::size_t kLargestFile = 1 << 20;
@@ -40,5 +48,26 @@ class LineReader {
   bool ended_ = false;
   std::size_t bytesRead_ = 0;
 };
+
+/// Builds a text file of the program in memory. Its bytes reach the disk in one piece, see safe_file.h.
+class LineWriter {
+ public:
+  /// Adds a line. A carriage return would end it and push all behind it out of place, so one becomes a blank.
+  void Add(std::string_view line);
+  const std::string& Bytes() const { return bytes_; }
+
+ private:
+  std::string bytes_;
+};
+
+/// Whether two texts are the same but for the case of the letters A to Z.
+bool SameWord(std::string_view one, std::string_view other);
+
+/// A flag as game files hold it.
+std::string_view FlagWord(bool flag);
+
+/// The flag that a line holds: its word in English or German and in any case, or a number, of which 0 is false.
+/// Nothing for any other text.
+std::optional<bool> FlagIn(std::string_view text);
 
 }  // namespace storage

@@ -1,7 +1,8 @@
-#include "line_reader.h"
+#include "text_lines.h"
 
 #include <algorithm>
 
+#include "../core/numbers.h"
 #include "code_page.h"
 
 namespace storage {
@@ -9,7 +10,15 @@ namespace {
 
 constexpr std::size_t kPiece = 1 << 14;  // bytes read at once
 
+char Capital(char letter) { return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter; }
+
 }  // namespace
+
+std::ifstream OpenRegularFile(const std::filesystem::path& file) {
+  std::error_code unknown;
+  if (!std::filesystem::is_regular_file(file, unknown)) return {};
+  return std::ifstream(file, std::ios::binary);
+}
 
 bool LineReader::Next(std::string& line) {
   std::string_view bytes;
@@ -58,6 +67,26 @@ bool LineReader::ReadAhead() {
   ahead_.resize(before + static_cast<std::size_t>(std::max<std::streamsize>(read, 0)));
   bytesRead_ += ahead_.size() - before;
   return read > 0;
+}
+
+void LineWriter::Add(std::string_view line) {
+  std::string bytes = ToCodePage(line);
+  std::replace(bytes.begin(), bytes.end(), '\r', ' ');
+  bytes_ += bytes + "\r\n";
+}
+
+bool SameWord(std::string_view one, std::string_view other) {
+  return std::equal(one.begin(), one.end(), other.begin(), other.end(),
+                    [](char a, char b) { return Capital(a) == Capital(b); });
+}
+
+std::string_view FlagWord(bool flag) { return flag ? "True" : "False"; }
+
+std::optional<bool> FlagIn(std::string_view text) {
+  if (SameWord(text, FlagWord(true)) || SameWord(text, "Wahr")) return true;
+  if (SameWord(text, FlagWord(false)) || SameWord(text, "Falsch")) return false;
+  const auto number = core::NumberIn(text);
+  return number ? std::optional(*number != 0) : std::nullopt;
 }
 
 }  // namespace storage
