@@ -2,9 +2,8 @@
 
 #include <QCoreApplication>
 #include <QDBusConnection>
-#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
+#include <QDBusReply>
 
 namespace platform::qt {
 namespace {
@@ -25,28 +24,51 @@ void ScreenSaver::KeepAway(bool away, const std::string& reason) {
 }
 
 void ScreenSaver::SendRequest() {
-  if (asking_ || wanted_ == inhibited_.has_value()) return;
+  if (asking_ || wanted_ == (inhibited_ || lock_.isValid())) return;
   wanted_ ? Inhibit() : UnInhibit();
 }
 
-/// A request that was refused is not repeated before the next call of KeepAway.
-void ScreenSaver::Inhibit() {
+/// Takes the answer when it comes, an empty one where there is no bus.
+void ScreenSaver::Ask(const QDBusConnection& bus, const QDBusMessage& call, const Taker& take) {
   asking_ = true;
-  const auto call = CallOf("Inhibit") << QCoreApplication::applicationName() << reason_;
-  auto* answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);
-  connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
-    const QDBusPendingReply<uint> number = *answer;
+  if (!bus.isConnected()) return take({});
+  auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
+  connect(answer, &QDBusPendingCallWatcher::finished, this, [answer, take] {
     answer->deleteLater();
+    take(answer->reply());
+  });
+}
+
+void ScreenSaver::Inhibit() {
+  const auto call = CallOf("Inhibit") << QCoreApplication::applicationName() << reason_;
+  Ask(QDBusConnection::sessionBus(), call, [this](const QDBusMessage& answer) {
+    const QDBusReply<uint> number = answer;
+    if (!number.isValid()) return InhibitIdle();
     asking_ = false;
-    if (!number.isValid()) return;
     inhibited_ = number.value();
     SendRequest();  // it may not be wanted any more
   });
 }
 
+/// For desktops without the service: the daemon that darkens their screen minds the locks of the login service. A
+/// request that is refused here too is not repeated before the next call of KeepAway.
+void ScreenSaver::InhibitIdle() {
+  const auto call = QDBusMessage::createMethodCall("org.freedesktop.login1", "/org/freedesktop/login1",
+                                                   "org.freedesktop.login1.Manager", "Inhibit")
+                    << "idle" << QCoreApplication::applicationName() << reason_ << "block";
+  Ask(QDBusConnection::systemBus(), call, [this](const QDBusMessage& answer) {
+    const QDBusReply<QDBusUnixFileDescriptor> lock = answer;
+    asking_ = false;
+    if (!lock.isValid()) return;
+    lock_ = lock.value();
+    SendRequest();  // it may not be wanted any more
+  });
+}
+
 void ScreenSaver::UnInhibit() {
-  QDBusConnection::sessionBus().send(CallOf("UnInhibit") << *inhibited_);
+  if (inhibited_) QDBusConnection::sessionBus().send(CallOf("UnInhibit") << *inhibited_);
   inhibited_.reset();
+  lock_ = {};
 }
 
 }  // namespace platform::qt

@@ -1,11 +1,15 @@
-// Keeps the screen from going dark by the desktop's service on the session bus. All calls are asynchronous. Without a
-// bus or such a service nothing happens.
+// Keeps the screen from going dark by the desktop's service on the session bus, or by a lock of the login service where
+// there is none. All calls are asynchronous. Without a bus or such services nothing happens.
 #pragma once
 
+#include <QDBusMessage>
+#include <QDBusUnixFileDescriptor>
 #include <QObject>
-#include <QString>
+#include <functional>
 #include <optional>
 #include <string>
+
+class QDBusConnection;
 
 namespace platform::qt {
 
@@ -19,14 +23,19 @@ class ScreenSaver : private QObject {
   void KeepAway(bool away, const std::string& reason);
 
  private:
+  using Taker = std::function<void(const QDBusMessage& answer)>;
+
   void SendRequest();
+  void Ask(const QDBusConnection& bus, const QDBusMessage& call, const Taker& take);
   void Inhibit();
+  void InhibitIdle();
   void UnInhibit();
 
   bool wanted_ = false;
   QString reason_;
-  bool asking_ = false;            ///< waiting for the answer of the service
+  bool asking_ = false;            ///< waiting for an answer
   std::optional<uint> inhibited_;  ///< the service's number for the request
+  QDBusUnixFileDescriptor lock_;   ///< holds the screen as long as it is open
 };
 
 }  // namespace platform::qt
