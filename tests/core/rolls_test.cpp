@@ -35,7 +35,7 @@ class DiceLogTest : public testing::Test, public core::Screen {
 
 TEST_F(DiceLogTest, MenuKnowsThreeShipsOnSixSidesAndMouseFourEvenFaces) {
   const std::tuple<double, std::int16_t, std::int16_t> cases[] = {
-      {0.16, 1, 1}, {0.17, 2, 1}, {0.24, 2, 1}, {0.25, 2, 2}, {0.49, 3, 2}, {0.5, 4, 3}, {0.74, 4, 3}, {0.999, 4, 4}};
+      {0.16, 1, 1}, {0.24, 2, 1}, {0.25, 2, 2}, {0.49, 3, 2}, {0.5, 4, 3}, {0.74, 4, 3}, {0.999, 4, 4}};
   for (const auto& [random, menu, mouse] : cases) {
     for (const auto& [command, face] : {std::pair(core::EventDieOf::Menu, menu), {core::EventDieOf::Mouse, mouse}}) {
       const double numbers[] = {0.999999, 0.5, random};  // one for each die

@@ -95,65 +95,44 @@ struct PlayerDataTest : MainWindowTest {
   }
 };
 
-TEST_F(PlayerDataTest, NumbersAreTakenAsTheyAreTyped) {
+TEST_F(PlayerDataTest, NumbersAreTakenAsTheyAreTypedAndButtonsStepToTheirBound) {
   Open();
-  const std::tuple<int, const char*, const char*> rows[] = {
-      {1, "7", "7 7"}, {1, "", "2 2"},     {1, "40000", "2 2"}, {2, "3.5", "3.5 4"},
-      {2, "x", "0 0"}, {2, "-3", "-3 -3"}, {8, "99", "99 99"},  {8, "-32769", "0 0"}};
-  for (const auto& [row, typed, holds] : rows) {
+  const std::tuple<int, const char*, char, const char*> rows[] = {
+      {1, "7", ' ', "7 7"},    {1, "", ' ', "2 2"},      {2, "3.5", ' ', "3.5 4"}, {2, "x", ' ', "0 0"},
+      {8, "-3", ' ', "-3 -3"}, {8, "40000", ' ', "0 0"}, {1, "4", '+', "5 5"},     {1, "9", '+', "5 5"},
+      {1, "9", '-', "8 8"},    {1, "0", '-', "0 0"},     {1, "-3", '-', "0 0"},    {1, "-3", '+', "-2 -2"},
+      {2, "4", '+', "4 4"},    {8, "98", '+', "99 99"},  {8, "99", '+', "99 99"}};
+  for (const auto& [row, typed, button, holds] : rows) {
     Enter(row, typed);
-    EXPECT_EQ(InRow(row), holds) << typed;
+    if (button != ' ') Click(button == '+' ? F5.cmdPlus(row - 1) : F5.cmdMinus(row - 1));
+    EXPECT_EQ(InRow(row), holds) << typed << ", " << button;
   }
   for (const auto& [row, pasted] : {std::pair(0, "Zoë "), {1, "5"}, {1, "-"}}) F5.Type(F5.txtData(row), pasted);
   EXPECT_EQ(ada.Name + InRow(1), "Zoë - 5") << "without a key; a sign is no number yet";
 }
 
-TEST_F(PlayerDataTest, ButtonsStepToTheirBoundAndBringTypedNumbersBackOnlyOnTheirOwnSide) {
-  Open();
-  const std::tuple<int, const char*, char, const char*> rows[] = {
-      {1, "4", '+', "5 5"},    {1, "5", '+', "5 5"},   {1, "9", '+', "5 5"},    {1, "9", '-', "8 8"},
-      {1, "0", '-', "0 0"},    {1, "-3", '-', "0 0"},  {1, "-3", '+', "-2 -2"}, {2, "4", '+', "4 4"},
-      {8, "98", '+', "99 99"}, {8, "99", '+', "99 99"}};
-  for (const auto& [row, typed, button, holds] : rows) {
-    Enter(row, typed);
-    Click(button == '+' ? F5.cmdPlus(row - 1) : F5.cmdMinus(row - 1));
-    EXPECT_EQ(InRow(row), holds) << typed << ", " << button;
-  }
-}
-
 TEST_F(PlayerDataTest, AFlagTurnsOverAtAnyKeyAndAtBothButtonsForThisPlayerAlone) {
-  const std::tuple<int, bool core::TPlayer::*, std::int16_t> flags[] = {
-      {3, &core::TPlayer::LongestRoad, 2},        {4, &core::TPlayer::LargestArmy, 2},
-      {5, &core::TPlayer::PoliticsMetropolis, 3}, {6, &core::TPlayer::TradeMetropolis, 3},
-      {7, &core::TPlayer::ScienceMetropolis, 3},  {9, &core::TPlayer::Merchant, 3}};
+  const std::pair<int, bool core::TPlayer::*> flags[] = {
+      {3, &core::TPlayer::LongestRoad},        {4, &core::TPlayer::LargestArmy},
+      {5, &core::TPlayer::PoliticsMetropolis}, {6, &core::TPlayer::TradeMetropolis},
+      {7, &core::TPlayer::ScienceMetropolis},  {9, &core::TPlayer::Merchant}};
   game.WinPoints = 30;
-  for (const auto& [row, flag, gameType] : flags) {
-    game.GameType = gameType;
+  for (const auto& [row, flag] : flags) {
+    game.GameType = row == 4 ? core::kBaseGame : core::kFirstExpansion;
     game.Players[2].*flag = true;
     Open();
     core::TPlayer expected = ada;
-    Enter(row, "ignored");
-    expected.*flag = true;
-    EXPECT_EQ(ada, expected) << row;
-    EXPECT_EQ(F5.txtData(row).Text.Get(), "T64");
-    for (platform::Control* button : {&F5.cmdPlus(row - 1), &F5.cmdMinus(row - 1), &F5.cmdMinus(row - 1)}) {
-      Click(*button);
+    const Act acts[] = {[&, at = row] { Enter(at, "x"); }, [&, at = row] { Click(F5.cmdPlus(at - 1)); },
+                        [&, at = row] { Click(F5.cmdMinus(at - 1)); }};
+    for (const Act& act : acts) {
+      act();
+      expected.*flag = !(expected.*flag);
+      EXPECT_EQ(ada, expected) << row;
+      EXPECT_EQ(F5.txtData(row).Text.Get(), expected.*flag ? "T64" : "T65");
     }
-    expected.*flag = false;
-    EXPECT_EQ(ada, expected) << row;
-    EXPECT_EQ(F5.txtData(row).Text.Get(), "T65");
     EXPECT_TRUE(game.Players[2].*flag);
     Click(F5.cmdOK);
   }
-}
-
-TEST_F(PlayerDataTest, TabTurnsEachFlagOnWhichItLands) {
-  Open();
-  for (int i = 0; i < 5; ++i) Key(F5, platform::kKeyTab);
-  EXPECT_EQ(F5.Focus(), &F5.txtData(8)) << "the rows between are hidden";
-  EXPECT_TRUE(ada.LongestRoad && ada.LargestArmy);
-  Key(F5, platform::kKeyTab, kShift);
-  EXPECT_TRUE(ada.LongestRoad && !ada.LargestArmy);
 }
 
 TEST_F(PlayerDataTest, LeavingCountsThePoints) {

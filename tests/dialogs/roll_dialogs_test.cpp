@@ -38,7 +38,6 @@ TEST_F(DiceEntryTest, EveryPathToAWholeRollRecordsItAndUnlocks) {
       // Unfinished entries: the dialog stays open, without OK.
       {"event key after clicked dice", kExpansion, [&] { Open(), Black(1), Red(1), Type("B"); }, {}},
       {"dice without event die", kExpansion, [&] { Type("43\r"); }, {}},
-      {"event die without red die", kExpansion, [&] { Open(), Black(1), Event(1), Type("\r"); }, {}},
   };
   for (const auto& [what, gameType, roll, logged] : cases) {
     SCOPED_TRACE(what);
@@ -51,23 +50,6 @@ TEST_F(DiceEntryTest, EveryPathToAWholeRollRecordsItAndUnlocks) {
     }
     EXPECT_TRUE(Closed(F7) && Rolls() == 1 && entry.DiceEntryStage == 0);
     EXPECT_EQ(game.DiceLog[1], logged);
-  }
-}
-
-TEST_F(DiceEntryTest, NextEntryBeginsEmptyAfterARollAndAfterNone) {
-  StartGame(kExpansion);
-  for (const Act& leave : {Act([&] { Press(platform::kKeyEscape); }), Act([&] { Type("B"); })}) {
-    Type("43");
-    Event(4);
-    EXPECT_EQ(Numbers(F7.picGewurfelt), "10 03 16");
-    EXPECT_TRUE(F7.cmdOK.Enabled);
-    leave();
-    Open();
-    EXPECT_EQ(Numbers(F7.picGewurfelt), "18 17 19");
-    EXPECT_FALSE(F7.cmdOK.Enabled);
-    Type("2");
-    EXPECT_EQ(Numbers(F7.picGewurfelt), "08 17 19");
-    Click(F7.cmdNoOK);
   }
 }
 

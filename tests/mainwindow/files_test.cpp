@@ -54,23 +54,21 @@ TEST_F(FilesTest, ALoadBringsTheThemeOfItsGameUnlessTheUserChoosesIt) {
 }
 
 TEST_F(FilesTest, DialogsAskForTheFileAndWhatIsNoGameLeavesTheGame) {
-  services.ChosenFile.clear();
-  Choose("mnuFileLoad");
-  services.ChosenFile = File;
-  Choose("mnuFileSaveAs");
-  const platform::FileDialog open = services.FileDialogs[0], save = services.FileDialogs[1];
-  EXPECT_EQ(open.DialogTitle + save.DialogTitle + open.InitDir, "T3T4" + Folder.string());
-  EXPECT_EQ(save.Filter, "T109 (*.obg)|*.obg");
-  EXPECT_EQ(open.Filter, save.Filter + "|T110 (*.*)|*.*");
-  game.Players[1].Name = "Anna";
-  for (const char* bytes : {"obgv31\r\n", "OBGV21\r\n"}) {
-    Put(File, bytes);
-    Choose("mnuFileLoad");
+  const std::string games = "T109 (*.obg)|*.obg";
+  for (const auto& [command, title, filter] :
+       {std::tuple("mnuFileSaveAs", "T4", games), {"mnuFileLoad", "T3", games + "|T110 (*.*)|*.*"}}) {
+    Choose(command);
+    const platform::FileDialog shown = services.FileDialogs.back();
+    EXPECT_EQ(shown.DialogTitle + shown.Filter + shown.InitDir, title + filter + Folder.string());
   }
   EXPECT_EQ(services.FileDialogs.back().FileName, File) << "the name chosen last";
-  EXPECT_EQ(services.Boxes.at(0), (Box{"T102", "T103", Buttons::Ok, platform::Icon::Critical}));
-  EXPECT_EQ(services.Boxes.at(1), (Box{"T104", "T105", Buttons::Ok, platform::Icon::Critical}));
-  EXPECT_EQ(game.Players[1].Name, "Anna");
+  game.Players[1].Name = "Anna";
+  for (const auto& [bytes, text, title] : {std::tuple("obgv31\r\n", "T102", "T103"), {"OBGV21\r\n", "T104", "T105"}}) {
+    Put(File, bytes);
+    Choose("mnuFileLoad");
+    EXPECT_EQ(services.Boxes.back(), (Box{text, title, Buttons::Ok, platform::Icon::Critical}));
+    EXPECT_EQ(game.Players[1].Name, "Anna");
+  }
 }
 
 TEST_F(FilesTest, ASaveThatFailsLeavesTheGameAndNoFile) {

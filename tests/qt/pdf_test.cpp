@@ -1,5 +1,4 @@
-// A page becomes a PDF file on which every text and box stands at its place, 300 units to an inch.
-#include <QImage>
+// A page becomes a PDF file on which every text stands at its place, 300 units to an inch.
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -10,16 +9,9 @@
 namespace tests {
 namespace {
 
-struct PdfTest : TemporaryFolder {
-  /// Runs a tool on the file that was written; its output beside it has this ending.
-  std::filesystem::path Read(const char* tool, const QStringList& options, const char* ending) {
-    const QString pdf = QString::fromStdString(Folder / "page.pdf"), out = QString::fromStdString(Folder / "out");
-    EXPECT_EQ(QProcess::execute(tool, options + QStringList{pdf, out}), 0);
-    return Folder / (std::string("out") + ending);
-  }
-};
+using PdfTest = TemporaryFolder;
 
-TEST_F(PdfTest, TextsAndBoxesStandAtTheirPlaces) {
+TEST_F(PdfTest, TextsStandAtTheirPlaces) {
   if (QStandardPaths::findExecutable("pdftotext").isEmpty()) GTEST_SKIP() << "needs poppler-utils";
   struct Text {
     double X, Y, Size;
@@ -38,10 +30,10 @@ TEST_F(PdfTest, TextsAndBoxesStandAtTheirPlaces) {
     page.FontSize = text.Size;
     page.PrintWithin(text.X, text.Y, text.Room, text.Word);
   }
-  page.FillBox(600, 900, 1200, 1000, {0, 0, 255});
+  const QString pdf = QString::fromStdString(Folder / "page.pdf"), out = QString::fromStdString(Folder / "out");
   Put(Folder / "page.pdf", platform::qt::QtServices({}).PdfOf(sheet));
-
-  const QString words = QString::fromStdString(Bytes(Read("pdftotext", {"-bbox"}, "")));
+  ASSERT_EQ(QProcess::execute("pdftotext", {"-bbox", pdf, out}), 0);
+  const QString words = QString::fromStdString(Bytes(Folder / "out"));
   for (const Text& text : texts) {
     const QRegularExpression line("xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" xMax=\"([0-9.]+)\" [^>]*>" +
                                   QString(text.Word));
@@ -52,12 +44,6 @@ TEST_F(PdfTest, TextsAndBoxesStandAtTheirPlaces) {
     if (text.Room == 0) continue;
     EXPECT_NEAR(found.captured(3).toDouble(), (text.X + text.Room) * 72 / 300, 2) << text.Word;
   }
-
-  const QImage image(QString::fromStdString(Read("pdftoppm", {"-r", "75", "-png", "-singlefile"}, ".png")));
-  const QColor blue(Qt::blue), paper(Qt::white);
-  const std::tuple<int, int, QColor> points[] = {{151, 226, blue},  {298, 248, blue},  {148, 237, paper},
-                                                 {302, 237, paper}, {200, 223, paper}, {200, 252, paper}};
-  for (const auto& [x, y, colour] : points) EXPECT_EQ(image.pixelColor(x, y), colour) << x << "," << y;
 }
 
 }  // namespace

@@ -46,6 +46,7 @@ TEST(Pictures, AllDrawingsOfTheFormsLoadAtTheirSize) {
     for (int index = 1; index <= list.Count; ++index) {
       EXPECT_EQ(platform::qt::SizeOf(list.Image(index)), QSize(list.Size, list.Size)) << list.Name << " " << index;
     }
+    EXPECT_TRUE(list.Image(0).Empty() && list.Image(list.Count + 1).Empty()) << list.Name;
   }
   EXPECT_EQ(platform::qt::SizeOf(windows::kArrow), QSize(32, 32));
   EXPECT_EQ(platform::qt::SizeOf(windows::kWinner), QSize(55, 55));

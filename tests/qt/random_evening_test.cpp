@@ -134,6 +134,8 @@ class WidgetEvening : public RandomEvening, Hands {
 TEST_P(WidgetEvening, ShowsWhatTheModelHolds) {
   const unsigned events = FromEnvironment("ORVANBEG_EVENING_EVENTS", kEvents);
   Play(events);
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_LT(QApplication::allWidgets().size(), 500) << "widgets were made and forgotten";
   if (HasFatalFailure() || events < kEnoughForAll) return;
   EXPECT_THAT(seen, testing::IsSupersetOf({"F2", "F3", "F4", "F5", "F6", "F7", "F8", "F9", "F10", "F20"}));
 }

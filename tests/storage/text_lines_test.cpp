@@ -47,14 +47,5 @@ TEST(LineReaderTest, LinesEndWhereTheKindOfFileSays) {
   }
 }
 
-TEST(LineReaderTest, OfAFileWithoutAnEndOnlyTheBeginningIsRead) {
-  std::istringstream file(std::string(10 * storage::kLargestFile, '\n'));
-  storage::LineReader reader(file, storage::LineFeeds::EndLines);
-  std::size_t lines = 0;
-  for (std::string line; reader.Next(line);) ++lines;
-  EXPECT_LE(lines, storage::kLargestFile);
-  EXPECT_TRUE(reader.EndedByLength());
-}
-
 }  // namespace
 }  // namespace tests
