@@ -3,12 +3,14 @@
 #include "../core/game_state.h"
 #include "../core/points.h"
 #include "../core/standing.h"
+#include "../core/texts.h"
 #include "../windows/form_metrics.h"
 #include "../windows/image_lists.h"
 
 namespace dialogs {
 namespace {
 
+namespace text = core::text;
 using platform::Place;
 
 constexpr int kClientWidth = 3855;
@@ -27,10 +29,6 @@ constexpr int kSettlementsX = 215;
 constexpr int kLineY = 108;
 constexpr int kTotalsY = 110;
 
-// Among the icons.
-constexpr int kSettlement = 1;
-constexpr int kCity = 2;
-
 constexpr platform::Colour kSpared{130, 130, 130};  // a player who has no city to lose
 
 }  // namespace
@@ -44,9 +42,9 @@ F11::F11(const windows::Context& context)
   picShowPlayers.Ground = windows::kPaper;
   picShowPlayers.Drawing.FontSize = 12;
   picShowPlayers.Drawing.FontBold = true;
-  picSymbol(0).Image = windows::imlIcons.Image(kCity);
+  picSymbol(0).Image = windows::imlIcons.Image(core::kCitySymbol);
   picSymbol(1).Image = windows::kMetropolis;
-  picSymbol(2).Image = windows::imlIcons.Image(kSettlement);
+  picSymbol(2).Image = windows::imlIcons.Image(core::kSettlementSymbol);
   cmdOK.Caption = "OK";
   cmdOK.Default = true;
   cmdOK.Click = [this] { Leave(); };
@@ -54,11 +52,13 @@ F11::F11(const windows::Context& context)
 }
 
 void F11::SetCaptions() {
-  Caption = state().Text(96);
-  picSymbol(0).SpokenName = state().Text(windows::TextOfSymbol(kCity));
-  picSymbol(2).SpokenName = state().Text(windows::TextOfSymbol(kSettlement));
+  Caption = state().Text(text::BarbariansAttack);
+  picSymbol(0).SpokenName = state().Text(text::Cities);
+  picSymbol(2).SpokenName = state().Text(text::Settlements);
   std::string metropolises;
-  for (const int symbol : {3, 4, 5}) metropolises += state().Text(windows::TextOfSymbol(symbol)) + " ";
+  for (const int name : {text::PoliticsMetropolis, text::TradeMetropolis, text::ScienceMetropolis}) {
+    metropolises += state().Text(name) + " ";
+  }
   picSymbol(1).SpokenName = metropolises;
 }
 

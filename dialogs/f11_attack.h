@@ -14,9 +14,8 @@ class F11 : public windows::Dialog {
   platform::ControlArray<platform::PictureBox> picSymbol;  ///< heads: cities, metropolises, settlements
   platform::CommandButton cmdOK;
 
-  /// Fills the window and shows it; the lock of the main window stays as it is. Called when a roll brings the attack.
+  /// Fills the window and shows it; the lock of the main window stays as it is.
   void ShowAttack();
-  /// Takes the title from the language.
   void SetCaptions() override;
 
  private:

@@ -1,17 +1,18 @@
 #include "f20_new_game.h"
 
 #include <algorithm>
-#include <charconv>
 
 #include "../core/new_game.h"
+#include "../core/numbers.h"
+#include "../core/texts.h"
 #include "../platform/mnemonic.h"
 #include "../storage/code_page.h"
 #include "../windows/form_metrics.h"
-#include "../windows/game_status.h"
 
 namespace dialogs {
 namespace {
 
+namespace text = core::text;
 using platform::Place;
 using windows::Repeat;
 
@@ -35,10 +36,6 @@ constexpr auto kNameLabels = Repeat<6>({150, 750, 1005, 255}, 0, 330);
 constexpr auto kNames = Repeat<6>({1290, 690, 1095, 285}, 0, 330);
 
 constexpr Place kInfoFrame{30, 5430, 3975, 1035};
-constexpr Place kTitleLabelPlace{180, 360, 945, 255};
-constexpr Place kTitlePlace{1290, 300, 2475, 285};
-constexpr Place kInfoLabelPlace{180, 690, 945, 255};
-constexpr Place kInfoPlace{1290, 630, 2475, 285};
 
 constexpr Place kStartPlace{4200, 5550, 1515, 375};
 constexpr Place kCancelPlace{4200, 6000, 1515, 375};
@@ -48,19 +45,12 @@ constexpr int kFewestWinPoints = 2;
 constexpr int kMostWinPoints = 99;
 constexpr int kFewestPlayers = 2;
 
-/// One more or one fewer than the number in a read-only field, within bounds.
-int Stepped(const platform::TextBox& field, int index, int lowest, int highest) {
-  const std::string& text = field.Text.Get();
-  int value = lowest;
-  std::from_chars(text.data(), text.data() + text.size(), value);
-  return std::clamp(value + (index == 1 ? 1 : -1), lowest, highest);
-}
+/// Of a read-only field, which always holds a number.
+std::int16_t NumberIn(const platform::TextBox& field) { return core::WholeNumberIn(field.Text.Get()).value_or(0); }
 
-std::int16_t NumberIn(const platform::TextBox& field) {
-  const std::string& text = field.Text.Get();
-  std::int16_t value = 0;
-  std::from_chars(text.data(), text.data() + text.size(), value);
-  return value;
+/// One more or one fewer than the number in the field, within bounds.
+int Stepped(const platform::TextBox& field, int index, int lowest, int highest) {
+  return std::clamp(NumberIn(field) + (index == 1 ? 1 : -1), lowest, highest);
 }
 
 void MakeNumberField(platform::TextBox& field, const std::string& text) {
@@ -69,7 +59,7 @@ void MakeNumberField(platform::TextBox& field, const std::string& text) {
   field.Text = text;
 }
 
-/// For a screen reader: the field bears no caption, and "-" and "+" do not tell of what.
+/// For a screen reader: the field bears no caption, and "-" and "+" alone do not say of what.
 void NameSteps(const std::string& name, platform::TextBox& field,
                const platform::ControlArray<platform::CommandButton>& buttons) {
   field.SpokenName = name;
@@ -98,11 +88,7 @@ F20::F20(const windows::Context& context)
       txtNOP(&fraSetPlayers, "txtNOP", kCountPlace),
       lblSpieler(&fraSetPlayers, "lblSpieler", kNameLabels),
       txtSpielername(&fraSetPlayers, "txtSpielername", kNames),
-      fraSpielInfo(this, "fraSpielInfo", kInfoFrame),
-      lblC(&fraSpielInfo, "lblC", kTitleLabelPlace),
-      txtSpieltitel(&fraSpielInfo, "txtSpieltitel", kTitlePlace),
-      lblD(&fraSpielInfo, "lblD", kInfoLabelPlace),
-      txtSpielinfo(&fraSpielInfo, "txtSpielinfo", kInfoPlace),
+      Info(this, kInfoFrame),
       cmdStart(this, "cmdStart", kStartPlace),
       cmdCancel(this, "cmdCancel", kCancelPlace),
       picGameStatus(this, "picGameStatus", kStatusPictures) {
@@ -112,7 +98,6 @@ F20::F20(const windows::Context& context)
   cmdA(0).Caption = cmdB(0).Caption = "-";
   cmdA(1).Caption = cmdB(1).Caption = "+";
   for (int i = picGameStatus.First(); i <= picGameStatus.Last(); ++i) picGameStatus(i).Opaque = false;
-  txtSpieltitel.Filter = txtSpielinfo.Filter = storage::Storable;
   for (int i = 0; i < core::kSeats; ++i) txtSpielername(i).Filter = storage::Storable;
   WireEvents();
 }
@@ -131,28 +116,28 @@ void F20::WireEvents() {
 }
 
 void F20::SetCaptions() {
-  const struct {
-    platform::Property<std::string>& caption;
-    int text;
-  } rows[] = {{fraA.Caption, 97},          {optA.Caption, 66},    {optB.Caption, 67},
-              {chkFlo.Caption, 68},        {chkSzen.Caption, 69}, {lblSiegbed.Caption, 70},
-              {fraSetPlayers.Caption, 98}, {lblB.Caption, 99},    {fraSpielInfo.Caption, 72},
-              {lblC.Caption, 73},          {lblD.Caption, 74},    {cmdStart.Caption, 100},
-              {cmdCancel.Caption, 77}};
-  Caption = platform::WithoutMnemonic(state().Text(2));
-  for (const auto& [caption, text] : rows) caption = state().Text(text);
+  Caption = platform::WithoutMnemonic(state().Text(text::MenuNewGame));
+  fraA.Caption = state().Text(text::ChooseKindOfGame);
+  optA.Caption = state().Text(text::BaseGame);
+  optB.Caption = state().Text(text::FirstExpansion);
+  chkFlo.Caption = state().Text(text::SecondExpansion);
+  chkSzen.Caption = state().Text(text::Scenario);
+  lblSiegbed.Caption = state().Text(text::NeededToWin);
+  fraSetPlayers.Caption = state().Text(text::ChoosePlayers);
+  lblB.Caption = state().Text(text::NumberOfPlayers);
   for (int i = 0; i < core::kSeats; ++i) {
-    lblSpieler(i).Caption = txtSpielername(i).SpokenName = state().Text(16) + " " + std::to_string(i + 1);
+    lblSpieler(i).Caption = txtSpielername(i).SpokenName = state().Text(text::Player) + " " + std::to_string(i + 1);
   }
-  txtSpieltitel.SpokenName = lblC.Caption;
-  txtSpielinfo.SpokenName = lblD.Caption;
+  Info.SetCaptions(state());
+  cmdStart.Caption = state().Text(text::StartGame);
+  cmdCancel.Caption = state().Text(text::Cancel);
   NameSteps(lblSiegbed.Caption, txtneuSPBed, cmdA);
   NameSteps(lblB.Caption, txtNOP, cmdB);
 }
 
 void F20::OpenNewGame() {
-  txtSpieltitel.Text = context_.services.Today();
-  txtSpielinfo.Text = std::string("Orvan Begleiter");
+  Info.txtSpieltitel.Text = context_.services.Today();
+  Info.txtSpielinfo.Text = std::string("Orvan Begleiter");
   if (!optA.Value && !optB.Value) optA.Value = true;
   SetFocus(optB.Value ? optB : optA);
   for (int i = 0; i < core::kSeats; ++i) {
@@ -164,7 +149,7 @@ void F20::OpenNewGame() {
 
 std::int16_t F20::ChosenKind() const { return optB.Value ? core::kFirstExpansion : core::kBaseGame; }
 
-/// Every click on any of the four controls brings the points to win back to those of the kind of game.
+/// A click on any of the four controls brings back the usual points to win of the kind of game.
 void F20::UpdateGameOptions() {
   txtneuSPBed.Text = std::to_string(core::KindOf(ChosenKind())->WinPoints);
   ShowStatus();
@@ -202,8 +187,8 @@ void F20::F20_cmdStart_Click() {
   for (int i = 0; i < core::kSeats; ++i) chosen.Names[i + 1] = txtSpielername(i).Text;
   chosen.Flottillen = Ticked(chkFlo);
   chosen.Scenario = Ticked(chkSzen);
-  chosen.Title = txtSpieltitel.Text;
-  chosen.Info = txtSpielinfo.Text;
+  chosen.Title = Info.txtSpieltitel.Text;
+  chosen.Info = Info.txtSpielinfo.Text;
   core::StartGame(state(), chosen);
   Leave(OnStart);
 }

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "../windows/dialog.h"
+#include "../windows/game_info.h"
 
 namespace dialogs {
 
@@ -26,17 +27,13 @@ class F20 : public windows::Dialog {
   platform::TextBox txtNOP;
   platform::ControlArray<platform::Label> lblSpieler;
   platform::ControlArray<platform::TextBox> txtSpielername;
-  platform::Frame fraSpielInfo;
-  platform::Label lblC;
-  platform::TextBox txtSpieltitel;
-  platform::Label lblD;
-  platform::TextBox txtSpielinfo;
+  windows::GameInfoFrame Info;
   platform::CommandButton cmdStart;
   platform::CommandButton cmdCancel;
   platform::ControlArray<platform::PictureBox> picGameStatus;
 
-  /// Called when the game has been started, before the dialog goes: the windows follow the new game.
-  std::function<void()> OnStart;
+  /// The game has been started; the dialog is still shown.
+  std::function<void()> OnStart = [] {};
 
   /// Fills the dialog and opens it.
   void OpenNewGame();

@@ -1,5 +1,6 @@
 #include "f3_about.h"
 
+#include "../core/texts.h"
 #include "../platform/mnemonic.h"
 #include "../windows/form_metrics.h"
 #include "../windows/image_lists.h"
@@ -72,7 +73,7 @@ F3::F3(const windows::Context& context)
   timClock.Tick = [this] { F3_timClock_Timer(); };
 }
 
-void F3::SetCaptions() { Caption = platform::WithoutMnemonic(state().Text(15)); }
+void F3::SetCaptions() { Caption = platform::WithoutMnemonic(state().Text(core::text::MenuAbout)); }
 
 void F3::OpenAbout() {
   lblFreeware.Caption = VersionText(context_.services.ProgramVersion());

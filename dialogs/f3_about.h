@@ -22,7 +22,7 @@ class F3 : public windows::Dialog {
   platform::Timer timClock;
 
   /// The user wants to read the readme file.
-  std::function<void()> ShowReadme;
+  std::function<void()> ShowReadme = [] {};
 
   void OpenAbout();
   void SetCaptions() override;

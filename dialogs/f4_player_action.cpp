@@ -2,12 +2,14 @@
 
 #include "../core/new_game.h"
 #include "../core/player_actions.h"
+#include "../core/texts.h"
 #include "../windows/form_metrics.h"
 #include "../windows/image_lists.h"
 
 namespace dialogs {
 namespace {
 
+namespace text = core::text;
 using platform::Place;
 
 constexpr int kClientWidth = 5775;
@@ -38,8 +40,10 @@ constexpr std::array<Place, 10> kKeys{{{240, 240, 255, 375},
 constexpr Place kNixPlace{1800, 3870, 2175, 405};
 
 // The symbol of each action, among the icons.
-constexpr std::array<int, 10> kSymbols{1, 2, 9, 7, 8, 3, 4, 5, 6, 10};
-constexpr int kFirstText = 35;  // of the captions of the ten buttons, in their order
+constexpr std::array<core::Symbol, 10> kSymbols{
+    core::kSettlementSymbol,  core::kCitySymbol,     core::kBonusPointSymbol, core::kLongestRoadSymbol,
+    core::kLargestArmySymbol, core::kPoliticsSymbol, core::kTradeSymbol,      core::kScienceSymbol,
+    core::kMerchantSymbol,    core::kLostCitySymbol};
 
 /// The action of a digit key of the top row, "0" standing for the tenth; 0 for any other key.
 int ActionOfKey(int keyCode) {
@@ -76,17 +80,18 @@ void F4::SetPictures() {
 
 void F4::SetCaptions() {
   for (int action = kFirstAction; action <= kLastAction; ++action) {
-    const std::string& name = state().Text(kFirstText + action - 1);
+    const std::string& name = state().Text(text::BuildSettlement + action - kFirstAction);
     cmdSP(action).Caption = name;
     cmdSP(action).SpokenName = lblFTaste(action - 1).Caption.Get() + ": " + name;
   }
-  cmdNix.Caption = state().Text(45);
+  cmdNix.Caption = state().Text(text::NoAction);
 }
 
 void F4::OpenActionDialog(int seat) {
   state().asked.CurrentPlayer = static_cast<std::int16_t>(seat);
   const std::string& name = state().game.Players[seat].Name;
-  Caption = state().Text(34) + " " + name + " (" + state().Text(16) + " " + std::to_string(seat) + ")";
+  Caption = state().Text(text::ChooseAction) + " " + name + " (" + state().Text(text::Player) + " " +
+            std::to_string(seat) + ")";
   Open();
 }
 

@@ -13,11 +13,11 @@ class F4 : public windows::Dialog {
   platform::ControlArray<platform::Label> lblFTaste;      ///< their keys, at 0 to 9
   platform::CommandButton cmdNix;
 
-  /// Opens the dialog for a seat, 1 to 6. Called by the panels and the keys F1 to F6 of the main window.
+  /// Opens the dialog for a seat, 1 to 6.
   void OpenActionDialog(int seat);
-  /// Enables the buttons that the kind of game offers. Called whenever the panels are drawn.
+  /// Enables the buttons that the kind of game offers.
   void OfferActions();
-  /// Gives the buttons their symbols; called once at start-up.
+  /// Gives the buttons their symbols.
   void SetPictures();
   /// Takes the captions from the language; the title is built when the dialog opens.
   void SetCaptions() override;

@@ -4,6 +4,8 @@
 
 #include "../core/new_game.h"
 #include "../core/numbers.h"
+#include "../core/standing.h"
+#include "../core/texts.h"
 #include "../storage/code_page.h"
 #include "../windows/form_metrics.h"
 #include "../windows/image_lists.h"
@@ -11,6 +13,7 @@
 namespace dialogs {
 namespace {
 
+namespace text = core::text;
 using core::TPlayer;
 using platform::Place;
 using windows::Repeat;
@@ -36,10 +39,6 @@ constexpr auto kPlus = Repeat<kRows - 1>({4380, 570, 285, 255}, 0, kPitch);
 constexpr auto kSymbolPlaces = Repeat<kRows - 1>({180, 540, 285, 285}, 0, kPitch);
 constexpr Place kOkPlace{1665, 3720, 1455, 375};
 
-constexpr int kFirstText = 47;  // of the rows' labels, in their order
-constexpr int kYesText = 64;
-constexpr int kNoText = 65;
-
 enum class Shown { Always, InBaseGame, InExpansion };
 
 using NumberOf = std::int16_t TPlayer::*;
@@ -57,15 +56,15 @@ struct Row {
 
 constexpr Row kTable[kRows] = {
     {},
-    {.Number = &TPlayer::Settlements, .Highest = 5, .Otherwise = "2", .Symbol = 1},
-    {.Number = &TPlayer::Cities, .Highest = 4, .Otherwise = "0", .Symbol = 2},
-    {.Flag = &TPlayer::LongestRoad, .Symbol = 7},
-    {.Flag = &TPlayer::LargestArmy, .Symbol = 8, .When = Shown::InBaseGame},
-    {.Flag = &TPlayer::PoliticsMetropolis, .Symbol = 3, .When = Shown::InExpansion},
-    {.Flag = &TPlayer::TradeMetropolis, .Symbol = 4, .When = Shown::InExpansion},
-    {.Flag = &TPlayer::ScienceMetropolis, .Symbol = 5, .When = Shown::InExpansion},
-    {.Number = &TPlayer::BonusPoints, .Highest = 99, .Otherwise = "0", .Symbol = 9},
-    {.Flag = &TPlayer::Merchant, .Symbol = 6, .When = Shown::InExpansion},
+    {.Number = &TPlayer::Settlements, .Highest = 5, .Otherwise = "2", .Symbol = core::kSettlementSymbol},
+    {.Number = &TPlayer::Cities, .Highest = 4, .Otherwise = "0", .Symbol = core::kCitySymbol},
+    {.Flag = &TPlayer::LongestRoad, .Symbol = core::kLongestRoadSymbol},
+    {.Flag = &TPlayer::LargestArmy, .Symbol = core::kLargestArmySymbol, .When = Shown::InBaseGame},
+    {.Flag = &TPlayer::PoliticsMetropolis, .Symbol = core::kPoliticsSymbol, .When = Shown::InExpansion},
+    {.Flag = &TPlayer::TradeMetropolis, .Symbol = core::kTradeSymbol, .When = Shown::InExpansion},
+    {.Flag = &TPlayer::ScienceMetropolis, .Symbol = core::kScienceSymbol, .When = Shown::InExpansion},
+    {.Number = &TPlayer::BonusPoints, .Highest = 99, .Otherwise = "0", .Symbol = core::kBonusPointSymbol},
+    {.Flag = &TPlayer::Merchant, .Symbol = core::kMerchantSymbol, .When = Shown::InExpansion},
 };
 
 }  // namespace
@@ -99,9 +98,9 @@ F5::F5(const windows::Context& context)
 }
 
 void F5::SetCaptions() {
-  Caption = state().Text(46);
+  Caption = state().Text(text::PlayerData);
   for (int row = 0; row < kRows; ++row) {
-    const std::string& name = state().Text(kFirstText + row);
+    const std::string& name = state().Text(text::Name + row);
     lblData(row).Caption = txtData(row).SpokenName = name;
     if (row == 0) continue;
     picSymbol(row - 1).SpokenName = name;
@@ -115,7 +114,7 @@ core::TPlayer& F5::Player() { return state().game.Players[state().asked.DataPlay
 void F5::PrepareDataDialog() {
   if (!core::IsSeat(state().asked.DataPlayer)) return;
   const std::string seat = std::to_string(state().asked.DataPlayer);
-  Caption = state().Text(46) + " " + Player().Name + " (" + state().Text(16) + seat + ")";
+  Caption = state().Text(text::PlayerData) + " " + Player().Name + " (" + state().Text(text::Player) + seat + ")";
   ShowRows();
   for (int row = 0; row < kRows; ++row) ShowValue(row);
   SetFocus(txtData(0));
@@ -139,7 +138,7 @@ void F5::ShowValue(int row) {
   if (about.Number) {
     txtData(row).Text = std::to_string(Player().*about.Number);
   } else if (about.Flag) {
-    txtData(row).Text = state().Text(Player().*about.Flag ? kYesText : kNoText);
+    txtData(row).Text = state().Text(Player().*about.Flag ? text::Yes : text::No);
   } else {
     txtData(row).Text = Player().Name;
   }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "../windows/dialog.h"
+#include "../windows/game_info.h"
 
 namespace dialogs {
 
@@ -9,11 +10,7 @@ class F6 : public windows::Dialog {
  public:
   explicit F6(const windows::Context& context);
 
-  platform::Frame fraSpielInfo;
-  platform::Label lblC;
-  platform::TextBox txtSpieltitel;
-  platform::Label lblD;
-  platform::TextBox txtSpielinfo;
+  windows::GameInfoFrame Info;
   platform::Frame fraSpielart;
   platform::Label lblGameInfo;
   platform::ControlArray<platform::PictureBox> picGameStatus;

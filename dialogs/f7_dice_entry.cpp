@@ -1,6 +1,7 @@
 #include "f7_dice_entry.h"
 
 #include "../core/rolls.h"
+#include "../core/texts.h"
 #include "../storage/code_page.h"
 #include "../windows/form_metrics.h"
 #include "../windows/image_lists.h"
@@ -8,8 +9,12 @@
 namespace dialogs {
 namespace {
 
-using namespace windows;
+namespace text = core::text;
 using platform::Place;
+using windows::BlackDie;
+using windows::EventDie;
+using windows::RedDie;
+using windows::Repeat;
 
 constexpr int kPitch = 600;  // twips from one choice to the next, and from one row to the next
 
@@ -65,7 +70,7 @@ F7::F7(const windows::Context& context)
     lblHotkeyShow(i).Caption = "?";
   }
   for (int row = kBlackRow; row <= kEventRow; ++row) {
-    picPfeil(row).Image = kArrow;
+    picPfeil(row).Image = windows::kArrow;
     picPfeil(row).Opaque = false;
     picGewurfelt(row).Border = 1;
   }
@@ -73,10 +78,10 @@ F7::F7(const windows::Context& context)
 
 void F7::SetPictures() {
   for (int i = 0; i < 6; ++i) {
-    picRW(i).Image = imlW.Image(i + 1);
-    picSW(i).Image = imlW.Image(i + 1 + kBeforeBlackFaces);
+    picRW(i).Image = RedDie(i + 1);
+    picSW(i).Image = BlackDie(i + 1);
   }
-  for (int i = 0; i < core::kEventFaces; ++i) picEW(i).Image = imlW.Image(i + 1 + kBeforeEventFaces);
+  for (int i = 0; i < core::kEventFaces; ++i) picEW(i).Image = EventDie(i + 1);
 }
 
 void F7::ShowHotkeys() {
@@ -86,17 +91,17 @@ void F7::ShowHotkeys() {
   }
 }
 
-/// The language has no words for the dice: row and face in numbers, of the event die the face by its name.
+/// Row and face in numbers, since the language has no words for the dice; the faces of the event die have names.
 std::string F7::Spoken(int row, int face) {
   const std::string which = std::to_string(row + 1) + ": ";
   if (face == 0) return which + "-";
-  return which + (row == kEventRow ? state().Text(20 + face) : std::to_string(face));
+  return which + (row == kEventRow ? state().Text(windows::TextOfEventFace(face)) : std::to_string(face));
 }
 
 void F7::SetCaptions() {
-  Caption = state().Text(76);
-  cmdNoOK.Caption = state().Text(77);
-  cmdOK.Caption = state().Text(78);
+  Caption = state().Text(text::EnterRoll);
+  cmdNoOK.Caption = state().Text(text::Cancel);
+  cmdOK.Caption = state().Text(text::Ok);
   for (int i = 0; i < 6; ++i) {
     picSW(i).SpokenName = Spoken(kBlackRow, i + 1);
     picRW(i).SpokenName = Spoken(kRedRow, i + 1);
@@ -114,9 +119,9 @@ void F7::Start() {
 /// Shows the dice chosen so far, blank ones for the others, and whether they can be recorded.
 void F7::ShowChosen() {
   const core::Entry& entry = state().entry;
-  picGewurfelt(kBlackRow).Image = imlW.Image(entry.Die1 > 0 ? entry.Die1 + kBeforeBlackFaces : kBlankBlack);
-  picGewurfelt(kRedRow).Image = imlW.Image(entry.Die2 > 0 ? entry.Die2 : kBlankRed);
-  picGewurfelt(kEventRow).Image = imlW.Image(entry.EventDie > 0 ? entry.EventDie + kBeforeEventFaces : kBlankGrey);
+  picGewurfelt(kBlackRow).Image = BlackDie(entry.Die1);
+  picGewurfelt(kRedRow).Image = RedDie(entry.Die2);
+  picGewurfelt(kEventRow).Image = EventDie(entry.EventDie);
   picGewurfelt(kBlackRow).SpokenName = Spoken(kBlackRow, entry.Die1);
   picGewurfelt(kRedRow).SpokenName = Spoken(kRedRow, entry.Die2);
   picGewurfelt(kEventRow).SpokenName = Spoken(kEventRow, entry.EventDie);

@@ -19,14 +19,14 @@ class F7 : public windows::Dialog {
   platform::CommandButton cmdNoOK;
   platform::CommandButton cmdOK;
 
-  /// Opens the dialog empty. Called for the left button on the dice of the main window.
+  /// Opens the dialog empty.
   void PrepareDiceDialog();
-  /// Opens the dialog with the black die (1 to 6) entered. Called for a digit key of the main window.
+  /// Opens the dialog with the black die (1 to 6) entered.
   void OpenDiceDialogByKey(int value);
 
-  /// Gives the choices their pictures; called once at start-up.
+  /// Gives the choices their pictures.
   void SetPictures();
-  /// Shows the keys of the event faces; called at start-up and when the settings have changed.
+  /// Shows the keys of the event faces as they are set.
   void ShowHotkeys();
   /// Takes title and captions from the language.
   void SetCaptions() override;

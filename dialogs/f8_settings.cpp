@@ -1,10 +1,12 @@
 #include "f8_settings.h"
 
+#include <algorithm>
 #include <span>
 #include <utility>
 
 #include "../core/new_game.h"
 #include "../core/numbers.h"
+#include "../core/texts.h"
 #include "../platform/mnemonic.h"
 #include "../storage/code_page.h"
 #include "../storage/language_file.h"
@@ -14,6 +16,7 @@
 namespace dialogs {
 namespace {
 
+namespace text = core::text;
 using platform::Place;
 
 constexpr int kClientWidth = 5490;
@@ -51,7 +54,7 @@ constexpr const char* kFirstRunMessage =
     "Liste.\r\n\r\nYou are running 'Orvan Begleiter' for the first time. Please select your desired language below:";
 constexpr const char* kNoSuchLanguage = "Bitte Sprache auswählen\nPlease select language";
 
-int Tick(bool on) { return on ? 1 : 0; }
+int TickFor(bool on) { return on ? 1 : 0; }
 bool IsTicked(const platform::CheckBox& box) { return box.Value.Get() == 1; }
 bool IsHotkey(const std::string& text) { return text.size() == 1 && text[0] >= 'A' && text[0] <= 'Z'; }
 
@@ -96,7 +99,7 @@ F8::F8(const windows::Context& context)
   cmdOK.Caption = "OK";
   cmdOK.Default = true;
   for (int i = 0; i < core::kEventFaces; ++i) {
-    picEWShow(i).Image = windows::imlW.Image(i + 1 + windows::kBeforeEventFaces);
+    picEWShow(i).Image = windows::EventDie(i + 1);
     picEWShow(i).Border = 2;
     txtEWHotkey(i).Face = platform::Font{"Verdana", 18, true};
     txtEWHotkey(i).Align = platform::Alignment::Centre;
@@ -110,7 +113,8 @@ void F8::WireEvents() {
   cbxShowGameTime.Click = [this] { state().settings.ShowGameTime = IsTicked(cbxShowGameTime); };
   cbxShowPlayerTime.Click = [this] { state().settings.ShowPlayerTime = IsTicked(cbxShowPlayerTime); };
   chkHGAuto.Click = [this] { F8_chkHGAuto_Click(); };
-  cmbHG.Change = cmbHG.Click = [this] { SelectBackground(); };
+  cmbHG.Change = [this] { SelectBackground(); };
+  cmbHG.Click = [this] { LoadThemeImages(cmbHG.ListIndex + 1); };
   txtSieger.Change = [this] { F8_txtSieger_Change(); };
   txtSieger.KeyUp = [this](platform::KeyCode, platform::Modifiers) { F8_txtSieger_KeyUp(); };
   for (int i = 0; i < core::kEventFaces; ++i) txtEWHotkey(i).Change = [this, i] { F8_txtEWHotkey_Change(i); };
@@ -127,9 +131,9 @@ void F8::ShowStartValues() {
 
 void F8::TickClocksAndContrast() {
   const core::Settings settings = state().settings;  // each box writes its setting back
-  cbxShowGameTime.Value = Tick(settings.ShowGameTime);
-  cbxShowPlayerTime.Value = Tick(settings.ShowPlayerTime);
-  cbxRedGreen.Value = Tick(settings.Contrast.IsOn());
+  cbxShowGameTime.Value = TickFor(settings.ShowGameTime);
+  cbxShowPlayerTime.Value = TickFor(settings.ShowPlayerTime);
+  cbxRedGreen.Value = TickFor(settings.Contrast.IsOn());
   state().settings = settings;
 }
 
@@ -145,34 +149,35 @@ void F8::ListLanguages() {
 }
 
 void F8::SetCaptions() {
-  const struct {
-    platform::Property<std::string>& caption;
-    int text;
-  } rows[] = {{fraDisplay.Caption, 79},    {cbxLastSix.Caption, 80},       {cbxSieger.Caption, 81},
-              {cbxBarbarians.Caption, 82}, {chkHGAuto.Caption, 83},        {lblHG.Caption, 84},
-              {fraHotkeys.Caption, 85},    {cbxShowGameTime.Caption, 115}, {cbxShowPlayerTime.Caption, 116},
-              {cbxRedGreen.Caption, 117}};
-  Caption = platform::WithoutMnemonic(state().Text(12));
-  for (const auto& [caption, text] : rows) caption = state().Text(text);
-  txtSieger.SpokenName = state().Text(81);
-  cmbHG.SpokenName = state().Text(84);
+  Caption = platform::WithoutMnemonic(state().Text(text::MenuSettings));
+  fraDisplay.Caption = state().Text(text::Display);
+  cbxLastSix.Caption = state().Text(text::ShowLastSix);
+  cbxSieger.Caption = txtSieger.SpokenName = state().Text(text::ShowWinner);
+  cbxBarbarians.Caption = state().Text(text::ShowBarbarians);
+  chkHGAuto.Caption = state().Text(text::ChooseThemeAutomatically);
+  lblHG.Caption = cmbHG.SpokenName = state().Text(text::Theme);
+  cbxShowGameTime.Caption = state().Text(text::ShowGameTime);
+  cbxShowPlayerTime.Caption = state().Text(text::ShowTurnTime);
+  cbxRedGreen.Caption = state().Text(text::StrongContrast);
+  fraHotkeys.Caption = state().Text(text::EventDieKeys);
   comSelectLang.SpokenName = fraSelectLang.Caption;
-  for (int i = 0; i < core::kEventFaces; ++i)
-    picEWShow(i).SpokenName = txtEWHotkey(i).SpokenName = state().Text(21 + i);
+  for (int i = 0; i < core::kEventFaces; ++i) {
+    picEWShow(i).SpokenName = txtEWHotkey(i).SpokenName = state().Text(windows::TextOfEventFace(i + 1));
+  }
   cmbHG.Clear();
-  for (const int text : {66, 67, 68}) cmbHG.AddItem(state().Text(text));
+  for (const int theme : {text::BaseGame, text::FirstExpansion, text::SecondExpansion}) {
+    cmbHG.AddItem(state().Text(theme));
+  }
 }
-
-void F8::ShowTheme(int theme) { cmbHG.Pick(theme - 1); }
 
 void F8::OpenSettings() {
   const core::Settings& settings = state().settings;
-  cbxLastSix.Value = Tick(settings.ShowLast6);
-  cbxSieger.Value = Tick(settings.ShowWinner);
-  chkHGAuto.Value = Tick(settings.AutoHG.IsOn());
+  cbxLastSix.Value = TickFor(settings.ShowLast6);
+  cbxSieger.Value = TickFor(settings.ShowWinner);
+  chkHGAuto.Value = TickFor(settings.AutoHG.IsOn());
   lblHG.Enabled = cmbHG.Enabled = !IsTicked(chkHGAuto);
   txtSieger.Text = std::to_string(state().game.WinPoints);
-  cbxBarbarians.Value = Tick(settings.ShowBarbarians);
+  cbxBarbarians.Value = TickFor(settings.ShowBarbarians);
   comSelectLang.Text = state().language.Languages[0];
   ShowTheme(settings.HG);
   SetFocus(cbxLastSix);
@@ -192,7 +197,7 @@ void F8::SelectFirstLanguage() {
   comSelectLang.Text = kFirstRunPrompt;
   lblmustSL.Caption = kFirstRunMessage;
   SetFocus(comSelectLang);
-  cmdOK.Enabled = true;  // whatever the hidden keys hold
+  cmdOK.Enabled = true;  // the keys cannot be seen, so they cannot hold the user up
   Visible = true;
   context_.desktop.SetModal(this);
   context_.services.WaitWhileVisible(*this);
@@ -201,12 +206,9 @@ void F8::SelectFirstLanguage() {
 
 /// Half-typed text is no theme and changes nothing.
 void F8::SelectBackground() {
-  for (int theme = 1; theme <= static_cast<int>(cmbHG.List().size()); ++theme) {
-    if (cmbHG.Text.Get() != cmbHG.List()[static_cast<std::size_t>(theme - 1)]) continue;
-    state().settings.HG = static_cast<std::int16_t>(theme);
-    LoadThemeImages(theme);
-    return;
-  }
+  const std::vector<std::string>& themes = cmbHG.List();
+  const auto found = std::find(themes.begin(), themes.end(), cmbHG.Text.Get());
+  if (found != themes.end()) LoadThemeImages(static_cast<int>(found - themes.begin()) + 1);
 }
 
 void F8::F8_chkHGAuto_Click() {
@@ -215,8 +217,7 @@ void F8::F8_chkHGAuto_Click() {
   lblHG.Enabled = cmbHG.Enabled = !automatic;
   if (!automatic) return;
   const int theme = core::ThemeOf(state().game);
-  ShowTheme(theme);
-  LoadThemeImages(theme == 0 ? state().settings.HG : theme);
+  ShowTheme(theme == 0 ? state().settings.HG : theme);
 }
 
 bool F8::AllHotkeysValid() const {
@@ -240,8 +241,8 @@ void F8::F8_txtSieger_KeyUp() {
   if (kind && !core::NumberIn(txtSieger.Text.Get())) txtSieger.Text = std::to_string(kind->WinPoints);
 }
 
-/// Takes over what waits for OK.
-void F8::TakeOver() {
+/// Stores what takes effect with OK only.
+void F8::StoreChoices() {
   state().settings.ShowLast6 = IsTicked(cbxLastSix);
   state().settings.ShowWinner = IsTicked(cbxSieger);
   state().settings.ShowBarbarians = IsTicked(cbxBarbarians);
@@ -259,7 +260,7 @@ void F8::F8_Close() {
 }
 
 void F8::F8_cmdOK_Click() {
-  TakeOver();
+  StoreChoices();
   const std::string chosen = comSelectLang.Text;
   if (!storage::IsListed(state().language, chosen)) {
     context_.services.MessageBox(kNoSuchLanguage);

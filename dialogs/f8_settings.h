@@ -32,18 +32,18 @@ class F8 : public windows::Dialog {
   platform::Label lblmustSL;
   platform::CommandButton cmdOK;
 
-  /// What the dialog has the main window do.
-  std::function<void(int theme)> LoadThemeImages;
-  std::function<bool()> LoadLanguage;  ///< false: there is no language to load
-  std::function<void()> HotkeysChanged;
+  /// What the main window does for the dialog.
+  std::function<void(int theme)> LoadThemeImages = [](int) {};
+  std::function<bool()> LoadLanguage = [] { return false; };  ///< false: there is no language to load
+  std::function<void()> HotkeysChanged = [] {};
 
   /// Brings the controls into line with the variables and opens the dialog.
   void OpenSettings();
   /// Shows the dialog with nothing but the choice of a language, and returns when one was chosen.
   void SelectFirstLanguage();
-  /// The themes and keys that the form shows before a language is there; once at start-up.
+  /// The themes and ticks that the form shows before a language is loaded.
   void ShowStartValues();
-  /// Ticks what the settings say of clocks and contrast; these boxes hold their state from start-up on.
+  /// Ticks clocks and contrast as the settings have them; from then on the boxes keep their state.
   void TickClocksAndContrast();
   /// Shows the keys of the event die as they are set.
   void ShowHotkeys();
@@ -51,8 +51,8 @@ class F8 : public windows::Dialog {
   void ListLanguages();
   /// Takes title, captions and the names of the themes from the language.
   void SetCaptions() override;
-  /// Shows the name of a theme, 1 to 3, which chooses it as if the user had.
-  void ShowTheme(int theme);
+  /// Chooses a theme, 1 to 3, in the list, as if the user had; that loads it.
+  void ShowTheme(int theme) { cmbHG.Pick(theme - 1); }
 
  private:
   void WireEvents();
@@ -65,7 +65,7 @@ class F8 : public windows::Dialog {
   void F8_txtSieger_KeyUp();
   void F8_Close();
   void F8_cmdOK_Click();
-  void TakeOver();
+  void StoreChoices();
 };
 
 }  // namespace dialogs

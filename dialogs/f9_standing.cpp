@@ -2,6 +2,7 @@
 
 #include "../core/new_game.h"
 #include "../core/standing.h"
+#include "../core/texts.h"
 #include "../windows/form_metrics.h"
 #include "../windows/image_lists.h"
 #include "standing_table.h"
@@ -9,6 +10,7 @@
 namespace dialogs {
 namespace {
 
+namespace text = core::text;
 using platform::Place;
 using windows::Repeat;
 
@@ -58,7 +60,11 @@ F9::F9(const windows::Context& context)
   }
 }
 
-void F9::SetCaptions() { Caption = state().Text(86); }
+void F9::SetCaptions() {
+  Caption = state().Text(text::WinnerTitle);
+  optWinOrder(1).Caption = state().Text(text::ShowCounts);
+  optWinOrder(0).Caption = state().Text(text::ShowPoints);
+}
 
 void F9::ShowStanding() {
   const std::vector<core::RankedPlayer> ranking = core::RankPlayers(state());
@@ -66,28 +72,26 @@ void F9::ShowStanding() {
   picRanking.SpokenName = SpokenStanding(state(), ranking);
   ShowHeadline(ranking.empty() ? std::string() : ranking.front().Name);
   ShowColumnHeads();
-  SetCaptions();
-  optWinOrder(1).Caption = state().Text(89);
-  optWinOrder(0).Caption = state().Text(90);
   optWinOrder(state().settings.SiegAnzeige.IsOff() ? 0 : 1).Value = true;
   Open();
 }
 
 void F9::ShowHeadline(const std::string& firstName) {
-  lblSiegertext.Caption = state().asked.GameWon ? firstName + " " + state().Text(88) : state().Text(87);
+  lblSiegertext.Caption =
+      state().asked.GameWon ? firstName + " " + state().Text(text::HasWon) : state().Text(text::StandingTitle);
 }
 
 void F9::ShowColumnHeads() {
   const std::int16_t gameType = state().game.GameType;
   if (!core::KindOf(gameType)) return;
-  const std::span<const int> symbols = StandingColumns(gameType);
+  const std::span<const core::Symbol> symbols = StandingColumns(gameType);
   for (int column = picSymbol.First(); column <= picSymbol.Last(); ++column) {
     platform::PictureBox& head = picSymbol(column);
     head.Visible = static_cast<std::size_t>(column) < symbols.size();
     if (!head.Visible) continue;
-    const int symbol = symbols[static_cast<std::size_t>(column)];
+    const core::Symbol symbol = symbols[static_cast<std::size_t>(column)];
     head.Image = windows::imlIcons.Image(symbol);
-    head.SpokenName = state().Text(windows::TextOfSymbol(symbol));
+    head.SpokenName = state().Text(windows::TextOf(symbol));
   }
 }
 

@@ -17,9 +17,8 @@ class F9 : public windows::Dialog {
   platform::ControlArray<platform::OptionButton> optWinOrder;  ///< the view: 0 points, 1 counts
   platform::CommandButton cmdOK;
 
-  /// Fills the window from the game as it stands and opens it. Called by the win test and on request.
+  /// Fills the window from the game as it stands and opens it.
   void ShowStanding();
-  /// Takes the title from the language.
   void SetCaptions() override;
 
  private:

@@ -1,8 +1,11 @@
 #include "standing_table.h"
 
+#include <ranges>
+
 #include "../core/game_state.h"
 #include "../core/numbers.h"
 #include "../core/points.h"
+#include "../core/texts.h"
 #include "../windows/image_lists.h"
 
 namespace dialogs {
@@ -20,10 +23,13 @@ constexpr int kPointsX = 200;
 constexpr int kFirstCellX = 248;
 constexpr int kCellPitch = 30;
 
-constexpr int kBaseColumns[] = {1, 2, 9, 7, 8};
-constexpr int kExpansionColumns[] = {1, 2, 9, 7, 6, 3, 4, 5};
+constexpr core::Symbol kBaseColumns[] = {core::kSettlementSymbol, core::kCitySymbol, core::kBonusPointSymbol,
+                                         core::kLongestRoadSymbol, core::kLargestArmySymbol};
+constexpr core::Symbol kExpansionColumns[] = {core::kSettlementSymbol,  core::kCitySymbol,     core::kBonusPointSymbol,
+                                              core::kLongestRoadSymbol, core::kMerchantSymbol, core::kPoliticsSymbol,
+                                              core::kTradeSymbol,       core::kScienceSymbol};
 
-/// What one cell tells: how many the player holds, or whether it is held at all, and what one of them is worth.
+/// What one cell shows: how many of its kind the player holds and what each is worth; a title is held or not.
 struct Cell {
   int held;
   int worth;
@@ -71,28 +77,25 @@ void DrawHead(const core::RankedPlayer& ranked, int y, Surface& table) {
 }
 
 /// A row finds its player by the name, so players of one name share their cells.
-std::vector<TPlayer> PlayersOf(const core::RankedPlayer& ranked, const core::Game& game) {
-  std::vector<TPlayer> found;
-  for (const TPlayer& player : core::PlayersAtTheTable(game)) {
-    if (player.Name == ranked.Name) found.push_back(player);
-  }
-  return found;
+auto PlayersOf(const core::RankedPlayer& ranked, const core::Game& game) {
+  const auto bearsName = [&ranked](const TPlayer& player) { return player.Name == ranked.Name; };
+  return core::PlayersAtTheTable(game) | std::views::filter(bearsName);
 }
 
 std::string SpokenCells(const State& state, const TPlayer& player) {
-  const std::span<const int> columns = StandingColumns(state.game.GameType);
+  const std::span<const core::Symbol> columns = StandingColumns(state.game.GameType);
   const std::vector<Cell> cells = CellsOf(player, state.game.GameType);
   std::string spoken;
   for (std::size_t column = 0; column < cells.size(); ++column) {
     const std::string text = TextOf(cells[column], state.settings.SiegAnzeige.IsOff());
-    if (!text.empty()) spoken += ", " + state.Text(windows::TextOfSymbol(columns[column])) + " " + text;
+    if (!text.empty()) spoken += ", " + state.Text(windows::TextOf(columns[column])) + " " + text;
   }
   return spoken;
 }
 
 }  // namespace
 
-std::span<const int> StandingColumns(std::int16_t gameType) {
+std::span<const core::Symbol> StandingColumns(std::int16_t gameType) {
   if (gameType == core::kFirstExpansion) return kExpansionColumns;
   return kBaseColumns;
 }
@@ -101,7 +104,7 @@ std::string SpokenStanding(const State& state, const std::vector<core::RankedPla
   std::string spoken;
   for (const core::RankedPlayer& ranked : ranking) {
     spoken += std::to_string(ranked.Rank) + ". " + ranked.Name + ": " + std::to_string(ranked.Points) + " ";
-    spoken += state.Text(71);
+    spoken += state.Text(core::text::VictoryPoints);
     for (const TPlayer& player : PlayersOf(ranked, state.game)) spoken += SpokenCells(state, player);
     spoken += "; ";
   }

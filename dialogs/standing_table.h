@@ -11,8 +11,8 @@
 
 namespace dialogs {
 
-/// The symbol of each column, among the icons.
-std::span<const int> StandingColumns(std::int16_t gameType);
+/// The symbols that head the columns.
+std::span<const core::Symbol> StandingColumns(std::int16_t gameType);
 
 /// The table in words, as a screen reader says it: each number or cross with the name of its column.
 std::string SpokenStanding(const core::State& state, const std::vector<core::RankedPlayer>& ranking);

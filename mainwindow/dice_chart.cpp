@@ -3,6 +3,7 @@
 #include "../core/dice_stats.h"
 #include "../core/numbers.h"
 #include "../core/rolls.h"
+#include "../core/texts.h"
 #include "../storage/code_page.h"
 #include "../windows/form_metrics.h"
 #include "../windows/image_lists.h"
@@ -10,9 +11,11 @@
 namespace mainwindow {
 namespace {
 
+namespace text = core::text;
 using core::State;
 using platform::Colour;
 using platform::Surface;
+using windows::kLightGrey;
 
 constexpr Colour kRule = Colour::FromBgr(0x999999);
 constexpr Colour kMarker = Colour::FromBgr(0xE16941);
@@ -24,45 +27,81 @@ struct BarColours {
 constexpr BarColours kQuietBars{Colour::FromBgr(0x228B22), Colour::FromBgr(0x0045FF)};
 constexpr BarColours kStrongBars{Colour::FromBgr(0x00FF00), Colour::FromBgr(0x0000FF)};
 
-struct Rule {
-  int X1, Y1, X2, Y2;
-  Colour Ink;
-};
-constexpr Rule kFrame[] = {
-    {2, 15, 599, 15, kRule},     {1, 16, 600, 16, platform::kBlack},     {2, 17, 599, 17, kRule},
-    {499, 2, 499, 249, kRule},   {500, 1, 500, 250, platform::kBlack},   {501, 2, 501, 249, kRule},
-    {501, 193, 599, 193, kRule}, {500, 194, 600, 194, platform::kBlack}, {501, 195, 599, 195, kRule},
-};
-constexpr int kEventRules[] = {62, 105, 148};  // heights of the rules between the faces of the event die
+// The rules: a head over the whole chart, the column of the event die and, at its foot, the box of the total.
+constexpr int kHeadRuleY = 16;
+constexpr int kColumnX = 500;
+constexpr int kColumnEnd = 250;
+constexpr int kTotalRuleY = 194;
+constexpr int kRight = 600;
+constexpr int kEventRuleY[] = {62, 105, 148};
 
-// Where things stand.
+// The histogram, a row for each sum.
+constexpr int kHeadY = 1;
+constexpr int kRowHeight = 20;
 constexpr int kSumX = 5;
 constexpr int kCountX = 35;
 constexpr int kBarX = 80;
 constexpr int kMeasuredX = 400;
 constexpr int kTheoryX = 450;
-constexpr int kHeadY = 1;
-constexpr int kRowHeight = 20;
-constexpr int kEmblemX = 502;
-constexpr int kEmblemY = 18;
+constexpr int kRailHeight = 2;
+constexpr int kBarFoot = 13;
+constexpr int kRailFoot = 15;
+
+// The event die, a row for each face: key and name above picture, count and share.
+constexpr int kEventPitch = 43;
+constexpr int kEventNameY = 20;
+constexpr int kEventFiguresY = 43;
+constexpr int kEventKeyX = 505;
+constexpr int kEventNameX = 530;
 constexpr int kEventPictureX = 506;
 constexpr int kEventPictureY[] = {33, 75, 119, 162};
 constexpr int kEventCountX = 545;
 constexpr int kEventShareX = 570;
-constexpr int kEventKeyX = 505;
-constexpr int kEventNameX = 530;
-constexpr int kEventPitch = 43;
+
+constexpr int kEmblemX = 502;
+constexpr int kEmblemY = 18;
+
+constexpr int kTotalLabelX = 503;
+constexpr int kTotalLabelY = 195;
+constexpr int kOneDigitTotalX = 530;
+constexpr int kMoreDigitsTotalX = 520;
+constexpr int kTotalY = 205;
+
+// The strip of the last six rolls.
+constexpr int kShownRolls = 6;
+constexpr int kStripY = 1;
+constexpr int kStripLabelX = 5;
+constexpr int kRollPitch = 70;
+constexpr int kOldestX = 500;  // in a game without event die
+constexpr int kOldestWithMarkX = 485;
+constexpr int kMarkOffset = 20;
+constexpr Colour kGateColours[] = {Colour::FromBgr(0xFF901E), Colour::FromBgr(0x00FFFF), Colour{0, 150, 0}};
+
+/// A black rule between two grey ones, which are a pixel shorter at both ends.
+void DrawRuleAcross(Surface& picW, int left, int right, int y) {
+  picW.Line(left + 1, y - 1, right - 1, y - 1, kRule);
+  picW.Line(left, y, right, y, platform::kBlack);
+  picW.Line(left + 1, y + 1, right - 1, y + 1, kRule);
+}
+
+void DrawRuleDown(Surface& picW, int x, int top, int foot) {
+  picW.Line(x - 1, top + 1, x - 1, foot - 1, kRule);
+  picW.Line(x, top, x, foot, platform::kBlack);
+  picW.Line(x + 1, top + 1, x + 1, foot - 1, kRule);
+}
 
 void DrawFrame(Surface& picW) {
-  for (const Rule& rule : kFrame) picW.Line(rule.X1, rule.Y1, rule.X2, rule.Y2, rule.Ink);
+  DrawRuleAcross(picW, 1, kRight, kHeadRuleY);
+  DrawRuleDown(picW, kColumnX, 1, kColumnEnd);
+  DrawRuleAcross(picW, kColumnX, kRight, kTotalRuleY);
 }
 
 void DrawHeads(const State& state, Surface& picW) {
   picW.FontSize = 9;
   picW.FontBold = false;
-  picW.PrintAt(kCountX, kHeadY, state.Text(17));
-  picW.PrintAt(kMeasuredX, kHeadY, state.Text(18));
-  picW.PrintAt(kTheoryX, kHeadY, state.Text(20));
+  picW.PrintAt(kCountX, kHeadY, state.Text(text::Count));
+  picW.PrintAt(kMeasuredX, kHeadY, state.Text(text::MeasuredShare));
+  picW.PrintAt(kTheoryX, kHeadY, state.Text(text::TheoryShare));
 }
 
 void DrawFigures(const State& state, int sum, int y, const std::string& separator, Surface& picW) {
@@ -78,10 +117,11 @@ void DrawFigures(const State& state, int sum, int y, const std::string& separato
 void DrawBar(const State& state, int sum, int y, int barUnit, const BarColours& colours, Surface& picW) {
   const double end = kBarX + static_cast<double>(core::ChartMarkerLength(state.figures, barUnit, sum));
   const double bar = kBarX + state.game.DiceCount[sum] * barUnit;
-  picW.FillBox(kBarX, y, end, y + 2, kMarker);
-  picW.FillBox(kBarX, y + 15, end, y + 13, kMarker);
-  picW.FillBox(kBarX, y + 2, bar, y + 13, core::IsAboveShare(state.figures, sum) ? colours.Above : colours.NotAbove);
-  picW.FillBox(end, y, end, y + 15, kMarker);
+  const Colour colour = core::IsAboveShare(state.figures, sum) ? colours.Above : colours.NotAbove;
+  picW.FillBox(kBarX, y, end, y + kRailHeight, kMarker);
+  picW.FillBox(kBarX, y + kRailFoot, end, y + kBarFoot, kMarker);
+  picW.FillBox(kBarX, y + kRailHeight, bar, y + kBarFoot, colour);
+  picW.FillBox(end, y, end, y + kRailFoot, kMarker);
 }
 
 void DrawHistogram(const State& state, const std::string& separator, Surface& picW) {
@@ -97,64 +137,92 @@ void DrawHistogram(const State& state, const std::string& separator, Surface& pi
 
 void DrawEventFrame(Surface& picW) {
   for (int face = 1; face <= core::kEventFaces; ++face) {
-    picW.PaintPicture(windows::imlW.Image(face + windows::kBeforeEventFaces), kEventPictureX, kEventPictureY[face - 1]);
+    picW.PaintPicture(windows::EventDie(face), kEventPictureX, kEventPictureY[face - 1]);
   }
-  for (const int y : kEventRules) {
-    picW.Line(501, y - 1, 599, y - 1, kRule);
-    picW.Line(500, y, 600, y, platform::kBlack);
-    picW.Line(501, y + 1, 599, y + 1, kRule);
-  }
+  for (const int y : kEventRuleY) DrawRuleAcross(picW, kColumnX, kRight, y);
 }
 
 void DrawEventDie(const State& state, Surface& picW) {
   DrawEventFrame(picW);
-  picW.PrintAt(kEventCountX, kHeadY, state.Text(19));
-  picW.PrintAt(kEventShareX, kHeadY, state.Text(18));
+  picW.PrintAt(kEventCountX, kHeadY, state.Text(text::EventCount));
+  picW.PrintAt(kEventShareX, kHeadY, state.Text(text::MeasuredShare));
   picW.FontSize = 8;
   for (int face = 1; face <= core::kEventFaces; ++face) {
-    const int y = 43 + (face - 1) * kEventPitch;
+    const int y = kEventFiguresY + (face - 1) * kEventPitch;
     picW.PrintAt(kEventCountX, y, std::to_string(state.game.EventCount[face]));
     picW.PrintAt(kEventShareX, y, std::to_string(core::EventPercent(state, face)) + "%");
   }
   for (int face = 1; face <= core::kEventFaces; ++face) {
-    const int y = 20 + (face - 1) * kEventPitch;
-    const int key = state.settings.EventHotkey[face];
+    const int y = kEventNameY + (face - 1) * kEventPitch;
     picW.FontBold = true;
-    picW.PrintAt(kEventKeyX, y, "(" + storage::CharacterOf(key) + ")");
+    picW.PrintAt(kEventKeyX, y, "(" + storage::CharacterOf(state.settings.EventHotkey[face]) + ")");
     picW.FontBold = false;
-    picW.PrintAt(kEventNameX, y, state.Text(20 + face));
+    picW.PrintAt(kEventNameX, y, state.Text(windows::TextOfEventFace(face)));
   }
 }
 
 void DrawTotal(const State& state, Surface& picW) {
   picW.FontBold = false;
   picW.FontSize = 8;
-  picW.PrintAt(503, 195, state.Text(26));
+  picW.PrintAt(kTotalLabelX, kTotalLabelY, state.Text(text::Rolls));
   picW.FontBold = true;
   picW.FontSize = 20;
   const int total = state.figures.TotalRolls;
-  picW.PrintAt(total <= 9 ? 530 : 520, 205, std::to_string(total) + "x");
+  picW.PrintAt(total <= 9 ? kOneDigitTotalX : kMoreDigitsTotalX, kTotalY, std::to_string(total) + "x");
+}
+
+/// A gate shows the red die in its colour, the ship a letter.
+void DrawMark(const core::TRoll& roll, int x, Surface& strip) {
+  if (roll.EventDie < 1 || roll.EventDie > core::kEventFaces) return;
+  const bool ship = roll.EventDie == core::kShipFace;
+  strip.ForeColor = ship ? kLightGrey : kGateColours[roll.EventDie - 1];
+  strip.PrintAt(x, kStripY, ship ? "(B)" : "(" + std::to_string(roll.Die2) + ")");
+}
+
+void DrawRoll(const core::TRoll& roll, std::int16_t gameType, int place, Surface& strip) {
+  const std::string sum = std::to_string(roll.Die1 + roll.Die2);
+  strip.ForeColor = kLightGrey;
+  if (gameType == core::kBaseGame) {
+    strip.PrintAt(kOldestX - kRollPitch * place, kStripY, sum);
+  } else if (gameType == core::kFirstExpansion) {
+    const int x = kOldestWithMarkX - kRollPitch * place;
+    strip.PrintAt(x, kStripY, sum);
+    DrawMark(roll, x + kMarkOffset, strip);
+  }
 }
 
 }  // namespace
 
-std::string SpokenChart(const State& state) {
-  std::string text = state.Text(26) + ": " + std::to_string(state.figures.TotalRolls);
-  for (int sum = core::kLowestSum; sum <= core::kHighestSum; ++sum) {
-    text += "; " + std::to_string(sum) + ": " + std::to_string(state.game.DiceCount[sum]) + " x";
-  }
-  return text;
-}
-
 void DrawDiceChart(State& state, const std::string& decimalSeparator, Surface& picW) {
   core::ComputeDiceFigures(state.game, state.figures);
-  picW.ForeColor = windows::kLightGrey;
+  picW.ForeColor = kLightGrey;
   picW.Cls();
   if (!core::HasEventDie(state.game)) picW.PaintPicture(windows::kEmblem, kEmblemX, kEmblemY);
   DrawFrame(picW);
   DrawHistogram(state, decimalSeparator, picW);
   if (core::HasEventDie(state.game)) DrawEventDie(state, picW);
   DrawTotal(state, picW);
+}
+
+std::string SpokenChart(const State& state) {
+  std::string spoken = state.Text(text::Rolls) + ": " + std::to_string(state.figures.TotalRolls);
+  for (int sum = core::kLowestSum; sum <= core::kHighestSum; ++sum) {
+    spoken += "; " + std::to_string(sum) + ": " + std::to_string(state.game.DiceCount[sum]) + " x";
+  }
+  return spoken;
+}
+
+void DrawLastSix(const State& state, Surface& picInfoLine) {
+  picInfoLine.FontSize = 9;
+  picInfoLine.FontBold = true;
+  picInfoLine.ForeColor = kLightGrey;
+  picInfoLine.Cls();
+  picInfoLine.PrintAt(kStripLabelX, kStripY, state.Text(text::LastSixRolls));
+  for (int place = 0; place < kShownRolls; ++place) {
+    const int entry = state.figures.TotalRolls - (kShownRolls - 1) + place;
+    if (entry < 1 || entry > core::kLoggedRolls) continue;
+    DrawRoll(state.game.DiceLog[entry], state.game.GameType, place, picInfoLine);
+  }
 }
 
 }  // namespace mainwindow

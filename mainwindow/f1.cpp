@@ -7,10 +7,7 @@
 namespace mainwindow {
 namespace {
 
-using platform::Picture;
 using platform::Place;
-using windows::imlToolbar;
-using windows::imlW;
 
 constexpr int kClientWidth = 9495;
 constexpr int kClientHeight = 8355;
@@ -33,21 +30,11 @@ constexpr platform::Colour kPanelGround{32, 48, 62};
 
 constexpr int kClockTick = 1000;  // milliseconds
 
-/// Two groups of commands and the help, with a separator (an empty picture) between them.
-std::vector<Picture> ToolPictures() {
-  std::vector<Picture> pictures;
-  for (int image = 1; image <= imlToolbar.Count; ++image) {
-    if (image == 6 || image == 10) pictures.emplace_back();
-    pictures.push_back(imlToolbar.Image(image));
-  }
-  return pictures;
-}
-
 }  // namespace
 
-F1::F1(platform::Desktop& desktop, std::unique_ptr<platform::Menu> menu)
+F1::F1(platform::Desktop& desktop, std::unique_ptr<platform::Menu> menu, std::vector<platform::Picture> tools)
     : Form(desktop, "F1", kClientWidth, kClientHeight),
-      tbrMenu(this, "tbrMenu", kToolBarPlace, ToolPictures()),
+      tbrMenu(this, "tbrMenu", kToolBarPlace, std::move(tools)),
       picSP(this, "picSP", kPanelPlaces),
       picWurfel(this, "picWurfel", kDicePlaces),
       picW(this, "picW", kChartPlace),
@@ -68,9 +55,9 @@ F1::F1(platform::Desktop& desktop, std::unique_ptr<platform::Menu> menu)
 }
 
 void F1::ShowBlankDice() {
-  picWurfel(0).Image = imlW.Image(windows::kBlankBlack);
-  picWurfel(1).Image = imlW.Image(windows::kBlankRed);
-  picWurfel(2).Image = imlW.Image(windows::kBlankGrey);
+  picWurfel(0).Image = windows::BlackDie(0);
+  picWurfel(1).Image = windows::RedDie(0);
+  picWurfel(2).Image = windows::EventDie(0);
   for (int i = picWurfel.First(); i <= picWurfel.Last(); ++i) picWurfel(i).SpokenName = std::string();
 }
 

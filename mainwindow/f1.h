@@ -1,4 +1,4 @@
-// F1, the main window: its controls at their places. What they do is wired in main_window.cpp.
+// F1, the main window: its controls at their places. main_window.cpp wires what they do.
 #pragma once
 
 #include "../platform/controls.h"
@@ -9,8 +9,8 @@ namespace mainwindow {
 
 class F1 : public platform::Form {
  public:
-  /// The hidden window with the given menu.
-  F1(platform::Desktop& desktop, std::unique_ptr<platform::Menu> menu);
+  /// The hidden window with the given menu and the pictures of its tool bar, of which an empty one separates.
+  F1(platform::Desktop& desktop, std::unique_ptr<platform::Menu> menu, std::vector<platform::Picture> tools);
 
   platform::ToolBar tbrMenu;
   platform::ControlArray<platform::PictureBox> picSP;      ///< panels of the seats 1 to 6, at 0 to 5

@@ -1,22 +1,28 @@
 #include "main_window.h"
 
+#include <filesystem>
+
 #include "../core/clock.h"
+#include "../core/game_state.h"
 #include "../core/new_game.h"
+#include "../core/player_actions.h"
 #include "../core/points.h"
 #include "../core/rolls.h"
+#include "../core/texts.h"
+#include "../platform/mnemonic.h"
 #include "../windows/image_lists.h"
-#include "clock_strip.h"
+#include "clocks.h"
 #include "dice_chart.h"
-#include "last_six.h"
 #include "player_panels.h"
 #include "themes.h"
 
 namespace mainwindow {
 
-using windows::imlW;
+namespace text = core::text;
+using platform::MouseButton;
 
 MainWindow::MainWindow(platform::Services& services)
-    : F1(Desktop, MakeMenu()),
+    : F1(Desktop, MakeMenu(), ToolPictures()),
       context_{State, *this, services, Desktop, lock_},
       F2(context_),
       F3(context_),
@@ -32,13 +38,66 @@ MainWindow::MainWindow(platform::Services& services)
       services_(services) {
   WireInput();
   F1.timSpielzeit.Tick = [this] { F1_timSpielzeit_Timer(); };
-  F20.OnStart = [this] { FollowNewGame(); };
+  F20.OnStart = [this] { ShowNewGame(); };
   F3.ShowReadme = [this] { F2.ShowFile("readme.txt"); };
-  F8.LoadThemeImages = [this](int theme) { LoadThemeImages(theme); };
-  F8.LoadLanguage = [this] { return LoadLanguage() == Started::Yes; };
+  F8.LoadThemeImages = [this](int theme) { LoadThemeImages(theme, State.settings, services_, F1); };
+  F8.LoadLanguage = [this] { return LoadLanguage(); };
   F8.HotkeysChanged = [this] { F7.ShowHotkeys(); };
   // Closing the window ends the process at once: nothing is asked and nothing is stored.
   F1.Close = [this] { services_.Quit(0); };
+}
+
+/// Each step relies on those before it.
+Started MainWindow::Load() {
+  SetWorkingFolder();
+  F1.MoveTo(0, 0);
+  core::SetDefaults(State);
+  F8.ShowStartValues();
+  LoadSettings();
+  F7.ShowHotkeys();
+  F8.ShowHotkeys();
+  core::BeginWithoutGame(State);
+  ShowEventDie();
+  if (!LoadLanguage()) return Started::NoLanguage;
+  F4.SetPictures();
+  F7.SetPictures();
+  CentreDialogs();
+  core::StopClocks(State);
+  core::CalcPoints(State, *this);
+  ShowPlayerPanels();
+  DrawDiceStats();
+  F1.Visible = true;
+  return Started::Yes;
+}
+
+void MainWindow::SetWorkingFolder() {
+  std::error_code ignored;  // where it cannot be entered, the program's files cannot be read either
+  std::filesystem::current_path(context_.Places().ProgramFiles(), ignored);
+}
+
+void MainWindow::CentreDialogs() {
+  for (windows::Dialog* dialog : Dialogs()) {
+    dialog->MoveTo((F1.Width() - dialog->Width()) / 2, (F1.Height() - dialog->Height()) / 2);
+  }
+}
+
+std::vector<windows::Dialog*> MainWindow::Dialogs() { return {&F3, &F4, &F5, &F6, &F7, &F8, &F9, &F10, &F11, &F20}; }
+
+void MainWindow::SetCaptions() {
+  for (const Command& command : Commands()) {
+    if (command.Text != 0) (*F1.MenuBar)[command.Menu.Name].Caption = State.Text(command.Text);
+  }
+  for (int index = 0; const Command* command : ToolButtons()) {
+    ++index;
+    if (command) F1.tbrMenu.SetToolTip(index, platform::WithoutMnemonic(State.Text(command->Text)));
+  }
+  ShowWhetherClocksRun(State, services_, F1);
+  for (int i = F1.picSP.First(); i <= F1.picSP.Last(); ++i)
+    F1.picSP(i).ToolTipText = State.Text(text::Seat1ToolTip + i);
+  for (int i = F1.picWurfel.First(); i <= F1.picWurfel.Last(); ++i) {
+    F1.picWurfel(i).ToolTipText = State.Text(text::DiceToolTip);
+  }
+  for (windows::Dialog* dialog : Dialogs()) dialog->SetCaptions();
 }
 
 void MainWindow::DrawDiceStats() {
@@ -51,7 +110,7 @@ void MainWindow::DrawDiceStats() {
   F1.picInfoLine.SpokenName = F1.picInfoLine.Drawing.Spoken();
 }
 
-/// Looks at the win anew each time: as long as a leader has the points, every redraw opens the winner's window.
+/// Tests for a win each time: as long as a leader has the points, every redraw opens the winner's window.
 void MainWindow::DrawPlayerPanels() {
   core::ClampPoints(State.figures);
   core::FindLeaders(State.figures);
@@ -63,37 +122,32 @@ void MainWindow::DrawPlayerPanels() {
 }
 
 void MainWindow::ShowPlayerPanels() {
-  for (int seat = 1; seat <= core::kSeats; ++seat) {
-    F1.picSP(seat - 1).Visible = State.game.Players[seat].Active;
-  }
+  for (int seat = 1; seat <= core::kSeats; ++seat) F1.picSP(seat - 1).Visible = State.game.Players[seat].Active;
 }
 
 void MainWindow::ShowRolledDice() {
-  F1.picWurfel(0).SpokenName = std::to_string(State.entry.Die1);
-  F1.picWurfel(1).SpokenName = std::to_string(State.entry.Die2);
-  F1.picWurfel(2).SpokenName = State.entry.EventDie == 0 ? std::string() : State.Text(20 + State.entry.EventDie);
-  F1.picWurfel(0).Image = imlW.Image(State.entry.Die1 + windows::kBeforeBlackFaces);
-  F1.picWurfel(1).Image = imlW.Image(State.entry.Die2);
-  if (State.game.GameType == core::kFirstExpansion) {
-    F1.picWurfel(2).Image = imlW.Image(State.entry.EventDie + windows::kBeforeEventFaces);
-  }
+  const core::Entry& entry = State.entry;
+  F1.picWurfel(0).SpokenName = std::to_string(entry.Die1);
+  F1.picWurfel(1).SpokenName = std::to_string(entry.Die2);
+  F1.picWurfel(2).SpokenName =
+      entry.EventDie == 0 ? std::string() : State.Text(windows::TextOfEventFace(entry.EventDie));
+  F1.picWurfel(0).Image = windows::BlackDie(entry.Die1);
+  F1.picWurfel(1).Image = windows::RedDie(entry.Die2);
+  if (State.game.GameType == core::kFirstExpansion) F1.picWurfel(2).Image = windows::EventDie(entry.EventDie);
 }
 
-/// The dialog has started a game: dice, theme, clocks, panels and chart are those of the new one.
-void MainWindow::FollowNewGame() {
+/// Dice, theme, clocks, panels and chart are those of the game that the dialog has started.
+void MainWindow::ShowNewGame() {
   F1.ShowBlankDice();
   ShowEventDie();
-  if (State.settings.AutoHG.IsOn()) {
-    F8.ShowTheme(core::ThemeOf(State.game));
-    LoadThemeImages(core::ThemeOf(State.game));
-  }
-  FollowClock();
+  if (State.settings.AutoHG.IsOn()) F8.ShowTheme(core::ThemeOf(State.game));
+  ShowWhetherClocksRun(State, services_, F1);
   ShowPlayerPanels();
   DrawDiceStats();
   core::CalcPoints(State, *this);
 }
 
-/// Of a kind of game that only a file can bring nothing is known: the die stays as it is.
+/// In a kind of game that only a file can bring, the die stays as it is.
 void MainWindow::ShowEventDie() {
   if (State.game.GameType == core::kBaseGame) F1.picWurfel(2).Visible = false;
   if (State.game.GameType == core::kFirstExpansion) F1.picWurfel(2).Visible = true;
@@ -104,10 +158,83 @@ void MainWindow::F1_timSpielzeit_Timer() {
   DrawClockStrip(State, F1);
 }
 
-std::vector<windows::Dialog*> MainWindow::Dialogs() { return {&F3, &F4, &F5, &F6, &F7, &F8, &F9, &F10, &F11, &F20}; }
+void MainWindow::WireInput() {
+  for (const Command& command : Commands()) {
+    if (command.Run) (*F1.MenuBar)[command.Menu.Name].Click = [this, run = command.Run] { (this->*run)(); };
+  }
+  F1.tbrMenu.ButtonClick = [this](int index) { F1_tbrMenu_ButtonClick(index); };
+  F1.KeyUp = [this](platform::KeyCode code, platform::Modifiers with) { F1_Form_KeyUp(code, with); };
+  for (int i = F1.picSP.First(); i <= F1.picSP.Last(); ++i) {
+    F1.picSP(i).MouseUp = [this, i](MouseButton button) { F1_picSP_MouseUp(i, button); };
+  }
+  for (int i = F1.picWurfel.First(); i <= F1.picWurfel.Last(); ++i) {
+    F1.picWurfel(i).MouseUp = [this](MouseButton button) { F1_picWurfel_MouseUp(button); };
+  }
+}
 
-bool MainWindow::LoadThemeImages(int theme) {
-  return mainwindow::LoadThemeImages(theme, State.settings, services_, F1);
+void MainWindow::F1_tbrMenu_ButtonClick(int index) {
+  const std::vector<const Command*> buttons = ToolButtons();
+  if (index < 1 || index > static_cast<int>(buttons.size())) return;
+  if (const Command* command = buttons[static_cast<std::size_t>(index - 1)]) (this->*command->Run)();
+}
+
+/// The first two seats always play; of the others the plain key looks whether they do.
+void MainWindow::F1_Form_KeyUp(platform::KeyCode code, platform::Modifiers with) {
+  const int seat = code - platform::kKeyF1 + 1;
+  const bool isSeat = core::IsSeat(seat);
+  if (with.Any()) {
+    if (isSeat) PrepareDataDialog(seat);
+    return;
+  }
+  if (isSeat) {
+    State.asked.CurrentPlayer = static_cast<std::int16_t>(seat);
+    if (seat > 2 && !State.game.Players[seat].Active) return;
+    F4.OpenActionDialog(seat);
+  }
+  if (const int die = core::DieOfKey(code)) F7.OpenDiceDialogByKey(die);
+  core::ClampPoints(State.figures);
+}
+
+void MainWindow::PrepareDataDialog(int seat) {
+  State.asked.DataPlayer = static_cast<std::int16_t>(seat);
+  F5.PrepareDataDialog();
+}
+
+void MainWindow::F1_picSP_MouseUp(int index, MouseButton button) {
+  const int seat = index + 1;
+  if (button == MouseButton::Right) return PrepareDataDialog(seat);
+  F4.OpenActionDialog(seat);
+}
+
+void MainWindow::F1_picWurfel_MouseUp(MouseButton button) {
+  if (button == MouseButton::Left) F7.PrepareDiceDialog();
+  if (button == MouseButton::Right) AutoRoll(core::EventDieOf::Mouse);
+}
+
+void MainWindow::AutoRoll(core::EventDieOf command) {
+  const auto random = [this] { return services_.Random(); };
+  core::AutoRoll(State, *this, random, command);
+}
+
+void MainWindow::F1_mnuExtraZS_Click() {
+  State.asked.GameWon = false;
+  F9.ShowStanding();
+}
+
+void MainWindow::F1_mnuSpecialLHS_Click() {
+  core::TakeLongestRoad(State.game);
+  services_.MessageBox(State.Text(text::LongestRoadIsFree));
+  core::CalcPoints(State, *this);
+}
+
+void MainWindow::F1_mnuExtraDelLastW_Click() {
+  const auto answer = services_.MessageBox(State.Text(text::ReallyUndo), {}, platform::Buttons::YesNo);
+  if (answer != platform::Answer::No) core::UndoLastRoll(State, *this);
+}
+
+void MainWindow::F1_mnuExtraClock_Click() {
+  State.game.ClockRunning = !State.game.ClockRunning;
+  ShowWhetherClocksRun(State, services_, F1);
 }
 
 }  // namespace mainwindow

@@ -1,5 +1,5 @@
-// The main window with everything that hangs on it: the game in memory, the dialogs, the commands. It is the screen of
-// the rules. Its parts stand in files of their own: start-up, commands' handlers, keys and mouse, the language.
+// The main window with everything that belongs to it: the game in memory, the dialogs, the commands. It is the screen
+// of the rules. Games, settings and languages are read and written in main_window_files.cpp.
 #pragma once
 
 #include "../core/game_state.h"
@@ -67,64 +67,53 @@ class MainWindow : public core::Screen, private storage::GameFileEvents {
   void ShowPlayerPanels();
 
   // One for each menu entry; the tool bar calls the same.
-  void F1_mnuGameNew_Click();
+  void F1_mnuGameNew_Click() { F20.OpenNewGame(); }
   void F1_mnuFileLoad_Click();
   void F1_mnuFileSaveAs_Click();
-  void F1_mnuGameInfo_Click();
-  void F1_mnuFilePrint_Click();
-  void F1_mnuFileQuit_Click();
+  void F1_mnuGameInfo_Click() { F6.PrepareGameInfo(); }
+  void F1_mnuFilePrint_Click() { F10.OpenPrint(); }
+  void F1_mnuFileQuit_Click() { SaveSettings(); }
   void F1_mnuExtraZS_Click();
   void F1_mnuSpecialLHS_Click();
   void F1_mnuExtraDelLastW_Click();
   void F1_mnuExtraClock_Click();
-  void F1_mnuExtraSettings_Click();
-  void F1_mnuExtraAutoDice_Click();
-  void F1_mnuHelpKeys_Click();
-  void F1_mnuHelpInfo_Click();
+  void F1_mnuExtraSettings_Click() { F8.OpenSettings(); }
+  void F1_mnuExtraAutoDice_Click() { AutoRoll(core::EventDieOf::Menu); }
+  void F1_mnuHelpKeys_Click() { F2.ShowFile("tastatur.txt"); }
+  void F1_mnuHelpInfo_Click() { F3.OpenAbout(); }
 
   /// One second has passed: the clocks count and the lower strip is painted.
   void F1_timSpielzeit_Timer();
 
  private:
-  // Start-up, in main_window_start.cpp.
   void SetWorkingFolder();
   void CentreDialogs();
-
-  // The language, in main_window_language.cpp.
-  Started LoadLanguage();
-  bool ReadLanguageList();
-  void ReadTexts();
-  void TellOfBlock(const std::string& file, int count);
   void SetCaptions();
-  void FollowClock();
+  void ShowNewGame();
+  std::vector<windows::Dialog*> Dialogs();
 
-  // Keys and mouse, in main_window_input.cpp.
   void WireInput();
   void F1_tbrMenu_ButtonClick(int index);
   void F1_Form_KeyUp(platform::KeyCode code, platform::Modifiers with);
   void F1_picSP_MouseUp(int index, platform::MouseButton button);
   void F1_picWurfel_MouseUp(platform::MouseButton button);
-  bool KeyOfSeat(int seat);
   void PrepareDataDialog(int seat);
   void AutoRoll(core::EventDieOf command);
 
-  // Files, in main_window_files.cpp.
+  // In main_window_files.cpp.
+  bool LoadLanguage();
+  bool ReadLanguageList();
+  void ReadTexts();
   void LoadSettings();
   void SaveSettings();
   void LoadGame();
-  void SaveGame();
   bool ChooseFile(int titleText, std::string filter, bool opens);
-
-  bool LoadThemeImages(int theme);
 
   // storage::GameFileEvents
   void TellNotAGameFile() override;
   void TellOlderVersion() override;
   bool ChooseBackground() override;
   void ShowEventDie() override;
-
-  void FollowNewGame();
-  std::vector<windows::Dialog*> Dialogs();
 
   platform::Services& services_;
   platform::FileDialog cmdLS_;  ///< keeps the name chosen last, in either direction

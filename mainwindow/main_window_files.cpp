@@ -1,19 +1,26 @@
-// Games and settings from and to files. A failure while loading a game ends the command without a word; what was done
-// so far stays.
+// The files of the main window: games, settings and languages. A failure while loading a game ends the command without
+// a word; what was done so far stays.
+#include <algorithm>
+#include <fstream>
+
 #include "../core/new_game.h"
 #include "../core/points.h"
+#include "../core/texts.h"
 #include "../platform/mnemonic.h"
 #include "../storage/game_file.h"
+#include "../storage/language_file.h"
 #include "../storage/settings_file.h"
 #include "../storage/text_lines.h"
 #include "../windows/dialog.h"
+#include "../windows/messages.h"
 #include "main_window.h"
+#include "themes.h"
 
 namespace mainwindow {
 namespace {
 
-constexpr int kOpenTitle = 3;
-constexpr int kSaveTitle = 4;
+namespace text = core::text;
+
 constexpr const char* kGameFiles = " (*.obg)|*.obg";
 constexpr const char* kAllFiles = " (*.*)|*.*";
 
@@ -29,19 +36,22 @@ bool MainWindow::ChooseFile(int titleText, std::string filter, bool opens) {
   return services_.ChooseFile(cmdLS_) && !cmdLS_.FileName.empty();
 }
 
-void MainWindow::SaveGame() {
-  const std::string filter = State.Text(109) + kGameFiles;
-  if (!ChooseFile(kSaveTitle, filter, false)) return;
+void MainWindow::F1_mnuFileSaveAs_Click() {
+  const std::string filter = State.Text(text::GameFiles) + kGameFiles;
+  if (!ChooseFile(text::MenuSaveAs, filter, false)) return;
   const auto written = storage::WriteWhole(cmdLS_.FileName, storage::GameFileText(State));
   if (written) return;
   const std::string where = cmdLS_.FileName + " (" + written.Cause.message() + ")";
-  services_.MessageBox("Das Spiel konnte nicht gespeichert werden:\n" + where + "\n\nThe game could not be saved:\n" +
-                       where);
+  services_.MessageBox(windows::InTwoLanguages("Das Spiel konnte nicht gespeichert werden:\n" + where,
+                                               "The game could not be saved:\n" + where));
+}
+
+void MainWindow::F1_mnuFileLoad_Click() {
+  const std::string filter = State.Text(text::GameFiles) + kGameFiles + "|" + State.Text(text::AllFiles) + kAllFiles;
+  if (ChooseFile(text::MenuOpen, filter, true)) LoadGame();
 }
 
 void MainWindow::LoadGame() {
-  const std::string filter = State.Text(109) + kGameFiles + "|" + State.Text(110) + kAllFiles;
-  if (!ChooseFile(kOpenTitle, filter, true)) return;
   std::ifstream file = storage::OpenRegularFile(cmdLS_.FileName);
   if (!file.is_open() || storage::ReadGame(file, State, *this) != storage::GameFileOutcome::Whole) return;
   ShowPlayerPanels();
@@ -50,38 +60,85 @@ void MainWindow::LoadGame() {
 }
 
 void MainWindow::TellNotAGameFile() {
-  services_.MessageBox(State.Text(102), State.Text(103), platform::Buttons::Ok, platform::Icon::Critical);
+  services_.MessageBox(State.Text(text::NotAGameFile), State.Text(text::NotAGameFileTitle), platform::Buttons::Ok,
+                       platform::Icon::Critical);
 }
 
 void MainWindow::TellOlderVersion() {
-  services_.MessageBox(State.Text(104), State.Text(105), platform::Buttons::Ok, platform::Icon::Critical);
+  services_.MessageBox(State.Text(text::OlderGameFile), State.Text(text::OlderGameFileTitle), platform::Buttons::Ok,
+                       platform::Icon::Critical);
 }
 
 /// The second expansion brings its theme even where the user chooses the themes.
 bool MainWindow::ChooseBackground() {
   const bool chosen = State.settings.AutoHG.IsOn() || State.game.OptFlottillen == core::kOn;
-  return !chosen || LoadThemeImages(core::ThemeOf(State.game));
+  return !chosen || LoadThemeImages(core::ThemeOf(State.game), State.settings, services_, F1);
 }
 
-/// The theme stays the first one where the file cannot be read to its end.
+/// Where the file cannot be read to its end, the theme stays the first one.
 void MainWindow::LoadSettings() {
   std::ifstream file = storage::OpenRegularFile(context_.Places().SettingsToRead());
   const bool whole = file.is_open() && storage::ReadSettings(file, State);
   F8.TickClocksAndContrast();
-  if (whole) LoadThemeImages(State.settings.AutoHG.IsOff() ? 1 : State.settings.HG);
+  if (whole) LoadThemeImages(State.settings.AutoHG.IsOff() ? 1 : State.settings.HG, State.settings, services_, F1);
 }
 
-/// Asks, stores the settings and ends the program. Where they cannot be stored the user is told, and it ends all the
-/// same.
+/// Asks, stores the settings and ends the program, even where they cannot be stored; the user is told then.
 void MainWindow::SaveSettings() {
-  const std::string title = platform::WithoutMnemonic(State.Text(7));
-  if (services_.MessageBox(State.Text(101), title, platform::Buttons::YesNo) == platform::Answer::No) return;
+  const std::string title = platform::WithoutMnemonic(State.Text(text::MenuQuit));
+  const auto answer = services_.MessageBox(State.Text(text::ReallyQuit), title, platform::Buttons::YesNo);
+  if (answer == platform::Answer::No) return;
   const auto path = context_.Places().SettingsFile();
   if (!storage::WriteSettings(path, State)) {
-    services_.MessageBox("Die Einstellungen konnten nicht gespeichert werden:\n" + path.string() +
-                         "\n\nThe settings could not be saved:\n" + path.string());
+    services_.MessageBox(
+        windows::InTwoLanguages("Die Einstellungen konnten nicht gespeichert werden:\n" + path.string(),
+                                "The settings could not be saved:\n" + path.string()));
   }
   services_.Quit(0);
+}
+
+/// False if there is no language to show the program in. At the first run the settings dialog asks for one; its OK
+/// comes here again and does the rest.
+bool MainWindow::LoadLanguage() {
+  if (!ReadLanguageList()) return false;
+  if (!storage::IsListed(State.language, State.language.Languages[0])) {
+    F8.SelectFirstLanguage();
+    return storage::IsListed(State.language, State.language.Languages[0]);
+  }
+  ReadTexts();
+  SetCaptions();
+  DrawPlayerPanels();
+  DrawDiceStats();
+  return true;
+}
+
+/// False if the file holds no language: the user is told, and the languages known so far stay.
+bool MainWindow::ReadLanguageList() {
+  const auto path = context_.Places().LanguageFile();
+  std::ifstream file = storage::OpenRegularFile(path);
+  core::Language found = State.language;
+  if (storage::ListLanguages(file, found) == 0) {
+    services_.MessageBox(
+        windows::InTwoLanguages("Die Sprachdatei fehlt oder enthält keine Sprache:\n" + path.string(),
+                                "The language file is missing or holds no language:\n" + path.string()));
+    return false;
+  }
+  State.language = found;
+  F8.ListLanguages();
+  return true;
+}
+
+/// Reads what is there, and tells the user of a language that lacks some texts.
+void MainWindow::ReadTexts() {
+  const auto path = context_.Places().LanguageFile();
+  std::ifstream file = storage::OpenRegularFile(path);
+  const int count = storage::LoadTexts(file, State.language);
+  if (count >= core::kTexts) return;
+  const std::string name = "\"" + State.language.Languages[0] + "\"";
+  const std::string figures = std::to_string(std::max(count, 0)) + " / " + std::to_string(core::kTexts);
+  services_.MessageBox(
+      windows::InTwoLanguages("Die Sprache " + name + " ist unvollständig, " + figures + " Texte in\n" + path.string(),
+                              "The language " + name + " is incomplete, " + figures + " texts in\n" + path.string()));
 }
 
 }  // namespace mainwindow

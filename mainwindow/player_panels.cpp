@@ -2,6 +2,7 @@
 
 #include "../core/numbers.h"
 #include "../core/standing.h"
+#include "../core/texts.h"
 #include "../windows/image_lists.h"
 #include "themes.h"
 
@@ -44,7 +45,7 @@ void PaintPanel(const State& state, int seat, Surface& panel) {
   panel.ForeColor = state.figures.LeaderFlag[seat] ? kLeading : kFollowing;
   panel.Cls();
   PaintSymbols(state.game.Players[seat], panel);
-  Write(panel, 8, false, kTextX, kLabelY, state.Text(16) + " " + std::to_string(seat));
+  Write(panel, 8, false, kTextX, kLabelY, state.Text(core::text::Player) + " " + std::to_string(seat));
   Write(panel, 18, true, kTextX, kNameY, state.game.Players[seat].Name);
   Write(panel, 32, true, points <= 9 ? kOneDigitX : kTwoDigitsX, kPointsY, core::PrintedNumber(points));
 }
@@ -52,8 +53,8 @@ void PaintPanel(const State& state, int seat, Surface& panel) {
 /// Seat, name and points; a leader by the rank.
 std::string SpokenPanel(const State& state, int seat) {
   const std::string rank = state.figures.LeaderFlag[seat] ? " (1.)" : "";
-  return state.Text(16) + " " + std::to_string(seat) + ": " + state.game.Players[seat].Name + ", " +
-         std::to_string(state.figures.PlayerPoints[seat]) + " " + state.Text(71) + rank;
+  return state.Text(core::text::Player) + " " + std::to_string(seat) + ": " + state.game.Players[seat].Name + ", " +
+         std::to_string(state.figures.PlayerPoints[seat]) + " " + state.Text(core::text::VictoryPoints) + rank;
 }
 
 }  // namespace

@@ -1,8 +1,8 @@
 #include "themes.h"
 
-#include <array>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace mainwindow {
@@ -10,12 +10,12 @@ namespace {
 
 using platform::Picture;
 
-constexpr std::array kPrefixes{"", "basis", "bw", "flo"};
+constexpr std::string_view kPrefixes[] = {"basis", "bw", "flo"};  // of the themes 1 to 3
 
-bool IsTheme(int theme) { return theme >= 1 && theme < static_cast<int>(kPrefixes.size()); }
+bool IsTheme(int theme) { return theme >= 1 && theme <= static_cast<int>(std::size(kPrefixes)); }
 
 Picture FileOf(int theme, const std::string& part) {
-  return {std::string("img/") + kPrefixes[static_cast<std::size_t>(theme)] + part + ".jpg", false};
+  return {"img/" + std::string(kPrefixes[theme - 1]) + part + ".jpg", false};
 }
 
 }  // namespace

@@ -8,7 +8,7 @@
 namespace mainwindow {
 
 /// Puts the pictures of a theme (1 to 3) on the main window and makes it the chosen one, `HG`; any other number does
-/// nothing. Stops at a picture that cannot be loaded, which leaves the old one: false. Draws nothing.
+/// nothing. Stops at a picture that cannot be loaded and leaves the old one there: false. Draws nothing.
 bool LoadThemeImages(int theme, core::Settings& settings, platform::Services& services, F1& f1);
 
 /// The ground of a seat's panel (1 to 6) in a theme, while the seat leads or not. Empty for an unknown theme.

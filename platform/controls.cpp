@@ -77,13 +77,15 @@ void ComboBox::AddItem(std::string item) {
 void ComboBox::Pick(int index) {
   if (index < 0 || index >= static_cast<int>(list_.size())) return;
   ListIndex = index;
+  picking_ = true;
   Text = list_[static_cast<std::size_t>(index)];
+  picking_ = false;
   if (Click) Click();
 }
 
 void ComboBox::PropertyChanged(Aspect aspect) {
   Control::PropertyChanged(aspect);
-  if (aspect == Aspect::Text && Change) Change();
+  if (aspect == Aspect::Text && Change && !picking_) Change();
 }
 
 PictureBox::PictureBox(Container* parent, std::string name, Place place) : Control(parent, std::move(name), place) {

@@ -97,7 +97,7 @@ class ComboBox : public Control {
   using Control::Control;
   Property<std::string> Text{*this, Aspect::Text};
   int ListIndex = -1;            ///< of the entry picked last, -1 for none
-  std::function<void()> Change;  ///< the text has changed
+  std::function<void()> Change;  ///< the text has changed, but not because an entry was picked
   std::function<void()> Click;   ///< an entry was picked
 
   const std::vector<std::string>& List() const { return list_; }
@@ -113,6 +113,7 @@ class ComboBox : public Control {
 
  private:
   std::vector<std::string> list_;
+  bool picking_ = false;
 };
 
 class Frame : public Container {

@@ -2,13 +2,16 @@
 
 #include <algorithm>
 
+#include "../core/texts.h"
 #include "../platform/mnemonic.h"
 #include "../storage/safe_file.h"
+#include "../windows/messages.h"
 #include "game_report.h"
 
 namespace printing {
 namespace {
 
+namespace text = core::text;
 using platform::Place;
 
 constexpr int kClientWidth = 5745;
@@ -36,10 +39,10 @@ F10::F10(const windows::Context& context)
 }
 
 void F10::SetCaptions() {
-  Caption = platform::WithoutMnemonic(state().Text(6));
-  lblDrucker.Caption = comDruckerListe.SpokenName = state().Text(91);
-  cmdPrintnow.Caption = state().Text(95);
-  cmdPrintCancel.Caption = state().Text(77);
+  Caption = platform::WithoutMnemonic(state().Text(text::MenuPrint));
+  lblDrucker.Caption = comDruckerListe.SpokenName = state().Text(text::PrintOn);
+  cmdPrintnow.Caption = state().Text(text::Print);
+  cmdPrintCancel.Caption = state().Text(text::Cancel);
 }
 
 /// What the box shows is what is printed on, so the current printer comes first.
@@ -56,7 +59,6 @@ void F10::ListPrinters() {
 
 void F10::OpenPrint() {
   ListPrinters();
-  SetCaptions();
   SetFocus(comDruckerListe);
   Open();
 }
@@ -90,8 +92,8 @@ void F10::WritePdf(const platform::Page& page) {
 }
 
 void F10::TellFailure(const std::string& where) {
-  context_.services.MessageBox("Das Spiel konnte nicht gedruckt werden:\n" + where +
-                               "\n\nThe game could not be printed:\n" + where);
+  context_.services.MessageBox(windows::InTwoLanguages("Das Spiel konnte nicht gedruckt werden:\n" + where,
+                                                       "The game could not be printed:\n" + where));
 }
 
 }  // namespace printing

@@ -1,32 +1,54 @@
 // The pictures that forms share: image lists addressed from 1, and single drawings.
 #pragma once
 
+#include "../core/standing.h"
+#include "../core/texts.h"
 #include "../platform/picture.h"
 
 namespace windows {
 
-/// Dice: 1 to 6 red faces, 7 to 12 black faces, 13 to 16 faces of the event die, 17 to 19 blank red, black and grey.
+/// All dice; the functions below know the order.
 inline constexpr platform::ImageList imlW{"imlW", 19, 31};
-inline constexpr int kBlankRed = 17;
-inline constexpr int kBlankBlack = 18;
-inline constexpr int kBlankGrey = 19;
-inline constexpr int kBeforeBlackFaces = 6;   ///< the image of black face n is n more
-inline constexpr int kBeforeEventFaces = 12;  ///< the image of event face n is n more
 
-/// Symbols: 1 settlement, 2 city, 3 to 5 politics, trade and science metropolis, 6 merchant, 7 longest road, 8 largest
-/// army, 9 bonus point, 10 city laid waste, 11 any metropolis.
+/// The pictures of `imlW`.
+enum DicePicture {
+  kFirstRedFace = 1,
+  kFirstBlackFace = 7,
+  kFirstEventFace = 13,
+  kBlankRed = 17,
+  kBlankBlack = 18,
+  kBlankGrey = 19
+};
+
+/// A face of a die, from 1; 0 is the die before a roll, blank.
+inline platform::Picture RedDie(int face) { return imlW.Image(face > 0 ? kFirstRedFace - 1 + face : kBlankRed); }
+inline platform::Picture BlackDie(int face) { return imlW.Image(face > 0 ? kFirstBlackFace - 1 + face : kBlankBlack); }
+inline platform::Picture EventDie(int face) { return imlW.Image(face > 0 ? kFirstEventFace - 1 + face : kBlankGrey); }
+/// The number of the text that names a face of the event die, 1 to 4.
+constexpr int TextOfEventFace(int face) { return core::text::Politics - 1 + face; }
+
+/// The symbols of all that a player holds, by `core::Symbol`.
 inline constexpr platform::ImageList imlIcons{"imlIcons", 11, 16};
-/// The number of the text that names what a symbol from 1 to 9 stands for.
-constexpr int TextOfSymbol(int symbol) {
-  constexpr int kTexts[] = {48, 49, 52, 53, 54, 56, 50, 51, 55};
+/// The number of the text that names what a symbol stands for; those of a lost city and of any metropolis have none.
+constexpr int TextOf(core::Symbol symbol) {
+  using namespace core::text;
+  constexpr int kTexts[] = {Settlements, Cities,      PoliticsMetropolis, TradeMetropolis, ScienceMetropolis,
+                            Merchant,    LongestRoad, LargestArmy,        BonusPoints};
   return kTexts[symbol - 1];
 }
 
 /// The buttons of the tool bar, without its separators.
 inline constexpr platform::ImageList imlToolbar{"imlToolbar", 11, 16};
 
-/// Kinds of game: 1 base game, 2 first expansion, 3 second expansion, 4 more than four players, 5 scenario.
+/// Kinds of game, and what a game has beside.
 inline constexpr platform::ImageList imlGameType{"imlGameType", 5, 48};
+enum GamePicture {
+  kBaseGamePicture = 1,
+  kFirstExpansionPicture,
+  kFlottillenPicture,
+  kManyPlayersPicture,
+  kScenarioPicture
+};
 
 /// The program's own icon, the one for places of 16 pixels, and the arrow from a row of dice to the chosen one.
 inline const platform::Picture kProgramIcon{"orvanbeg.svg"};

@@ -9,10 +9,10 @@ TEST_F(MainWindowTest, GameInfoTakesBothTextsOverAsTheyStandWhenItIsLeft) {
   std::pair<std::string, std::string> before(game.GameTitle, game.GameInfo);
   for (const auto& texts : {std::pair<std::string, std::string>("Abend bei Zoë", ""), {" a\"b,c ", "Runde 2"}}) {
     Press('I', kCtrl);
-    EXPECT_EQ(F6.Focus(), &F6.txtSpieltitel) << "wherever it was when the dialog was left";
-    EXPECT_EQ(std::pair(F6.txtSpieltitel.Text.Get(), F6.txtSpielinfo.Text.Get()), before);
-    F6.Type(F6.txtSpielinfo, texts.second);
-    F6.Type(F6.txtSpieltitel, texts.first + "→");  // which no file holds
+    EXPECT_EQ(F6.Focus(), &F6.Info.txtSpieltitel) << "wherever it was when the dialog was left";
+    EXPECT_EQ(std::pair(F6.Info.txtSpieltitel.Text.Get(), F6.Info.txtSpielinfo.Text.Get()), before);
+    F6.Type(F6.Info.txtSpielinfo, texts.second);
+    F6.Type(F6.Info.txtSpieltitel, texts.first + "→");  // which no file holds
     Key(F6, platform::kKeyEscape);
     EXPECT_EQ(std::pair(game.GameTitle, game.GameInfo), before);
     F6.SetFocus(F6.cmdOK);
@@ -67,8 +67,8 @@ TEST_F(NewGameTest, StartTakesEveryFieldAndTheMainWindowFollows) {
   Click(F20.optB);
   F20.Type(F20.txtSpielername(0), "Ada");
   F20.Type(F20.txtSpielername(3), "edited, then hidden");
-  F20.Type(F20.txtSpieltitel, "title");
-  F20.Type(F20.txtSpielinfo, "info");
+  F20.Type(F20.Info.txtSpieltitel, "title");
+  F20.Type(F20.Info.txtSpielinfo, "info");
   Click(F20.cmdB(0));
   Click(F20.chkSzen);
   Click(F20.cmdA(0));

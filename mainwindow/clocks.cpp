@@ -1,14 +1,16 @@
-#include "clock_strip.h"
+#include "clocks.h"
 
 #include <algorithm>
 
 #include "../core/clock.h"
 #include "../core/standing.h"
+#include "../core/texts.h"
 #include "../windows/image_lists.h"
 
 namespace mainwindow {
 namespace {
 
+namespace text = core::text;
 using core::State;
 using platform::Surface;
 
@@ -31,17 +33,15 @@ constexpr double kTextSize = 8;
 
 void DrawTotals(const State& state, int x, Surface& surface) {
   const core::BoardTotals totals = core::CountBoard(state.game);
-  const struct {
-    int count;
-    int icon;
-  } rows[] = {{totals.Settlements, 1}, {totals.Cities, 2}, {totals.Metropolises, 11}};
   int y = kFirstTotalY;
-  for (const auto& [count, icon] : rows) {
-    if (icon == 11 && state.game.GameType != core::kFirstExpansion) break;
+  const auto draw = [&](int count, int symbol) {
     surface.PrintAt(x, y, std::to_string(count) + " x");
-    surface.PaintPicture(windows::imlIcons.Image(icon), x + kIconRight, y - kIconAbove);
+    surface.PaintPicture(windows::imlIcons.Image(symbol), x + kIconRight, y - kIconAbove);
     y += kTotalPitch;
-  }
+  };
+  draw(totals.Settlements, core::kSettlementSymbol);
+  draw(totals.Cities, core::kCitySymbol);
+  if (state.game.GameType == core::kFirstExpansion) draw(totals.Metropolises, core::kMetropolisSymbol);
 }
 
 void DrawClock(const std::string& label, int seconds, int x, int height, Surface& surface) {
@@ -69,10 +69,16 @@ void DrawClockStrip(const State& state, platform::Form& f1) {
     }
     return;
   }
-  if (settings.ShowGameTime) DrawClock(state.Text(113), state.game.Clock[0], kGameClockX, height, surface);
+  if (settings.ShowGameTime) DrawClock(state.Text(text::GameTime), state.game.Clock[0], kGameClockX, height, surface);
   if (settings.ShowPlayerTime) {
-    DrawClock(state.Text(114), state.game.Clock[1], width - kPlayerClockFromRight, height, surface);
+    DrawClock(state.Text(text::TurnTime), state.game.Clock[1], width - kPlayerClockFromRight, height, surface);
   }
+}
+
+void ShowWhetherClocksRun(const State& state, platform::Services& services, platform::Form& f1) {
+  const bool run = state.game.ClockRunning;
+  (*f1.MenuBar)["mnuExtraClock"].Caption = state.Text(run ? text::MenuStopClock : text::MenuStartClock);
+  services.KeepScreenAwake(run, "The clock of the game is running");
 }
 
 }  // namespace mainwindow
