@@ -11,8 +11,8 @@
 #include "../storage/language_file.h"
 #include "../storage/settings_file.h"
 #include "../storage/text_lines.h"
-#include "../windows/dialog.h"
 #include "../windows/messages.h"
+#include "../windows/saving.h"
 #include "main_window.h"
 #include "themes.h"
 
@@ -32,7 +32,8 @@ bool MainWindow::ChooseFile(int titleText, std::string filter, bool opens) {
   cmdLS_.InitDir = context_.Places().FirstFolder().string();
   cmdLS_.DialogTitle = platform::WithoutMnemonic(State.Text(titleText));
   cmdLS_.OpensFile = opens;
-  cmdLS_.NoSuchFolder = windows::kNoSuchFolder;
+  cmdLS_.Objection = nullptr;
+  if (!opens) cmdLS_.Objection = [this](const std::string& path) { return windows::ObjectionToSaving(State, path); };
   return services_.ChooseFile(cmdLS_) && !cmdLS_.FileName.empty();
 }
 

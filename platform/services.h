@@ -3,6 +3,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -30,10 +31,11 @@ struct FileDialog {
   std::string Filter;  ///< pairs of name and pattern, all separated by "|"
   std::string InitDir;
   std::string DialogTitle;
-  bool OpensFile = false;    ///< it opens a file that exists; else it saves one
-  std::string DefaultExt;    ///< added to a name typed without extension; empty: the name stays as typed
-  std::string NoSuchFolder;  ///< what is said of a folder that does not exist; its path is appended
-  std::string FileName;      ///< with its path; empty as long as none was chosen
+  bool OpensFile = false;  ///< it opens a file that exists; else it saves one
+  std::string DefaultExt;  ///< added to a name typed without extension; empty: the name stays as typed
+  /// Why a file cannot be saved there, in words for the user; empty: it can. The dialog stays open below them.
+  std::function<std::string(const std::string& path)> Objection;
+  std::string FileName;  ///< with its path; empty as long as none was chosen
 };
 
 /// A drawing for paper. Fonts have their size in points, pictures 96 pixels to an inch.

@@ -6,6 +6,7 @@
 #include "../platform/mnemonic.h"
 #include "../storage/safe_file.h"
 #include "../windows/messages.h"
+#include "../windows/saving.h"
 #include "game_report.h"
 
 namespace printing {
@@ -83,7 +84,7 @@ void F10::PrintGame() {
 void F10::WritePdf(const platform::Page& page) {
   pdfFile_.Filter = "PDF (*.pdf)|*.pdf";
   pdfFile_.DefaultExt = "pdf";
-  pdfFile_.NoSuchFolder = windows::kNoSuchFolder;
+  pdfFile_.Objection = [this](const std::string& path) { return windows::ObjectionToSaving(state(), path); };
   pdfFile_.InitDir = context_.Places().FirstFolder().string();
   pdfFile_.DialogTitle = Caption;
   if (!context_.services.ChooseFile(pdfFile_) || pdfFile_.FileName.empty()) return;

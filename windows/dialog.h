@@ -43,9 +43,6 @@ struct Context {
   }
 };
 
-/// What the file dialog says of a folder that is not there, in both fixed languages.
-inline constexpr const char* kNoSuchFolder = "Diesen Ordner gibt es nicht.\nThere is no such folder.";
-
 class Dialog : public platform::Form {
  public:
   /// A hidden dialog with a client area in twips.

@@ -17,9 +17,8 @@ QAccessibleInterface* InterfaceOf(const QString&, QObject* object) {
   if (auto* window = dynamic_cast<FormWindow*>(object)) {
     return new QAccessibleWidget(window, window->parentWidget() ? QAccessible::Dialog : QAccessible::Window);
   }
-  const auto* view = dynamic_cast<ControlView*>(object);
-  if (!view || view->SpokenRole() == QAccessible::NoRole) return nullptr;
-  return new QAccessibleWidget(&view->Widget(), view->SpokenRole());
+  auto* view = dynamic_cast<ControlView*>(object);
+  return view ? view->MakeSpoken() : nullptr;
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QScopeGuard>
 #include <QTreeView>
+#include <functional>
 
 #include "convert.h"
 #include "qt_services.h"
@@ -48,6 +49,37 @@ void FitColumns(const QFileDialog& chooser) {
   files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
 }
 
+/// The toolkit's own dialog on every desktop: only the extension that was asked for is ever added to a name. It stays
+/// open below an objection to the name.
+class Chooser : public QFileDialog {
+ public:
+  Chooser(Services& services, const FileDialog& dialog)
+      : QFileDialog(WindowBelow(), ToQt(dialog.DialogTitle), ToQt(dialog.InitDir)),
+        services_(services),
+        objection_(dialog.Objection) {
+    setOption(QFileDialog::DontUseNativeDialog);
+    setAcceptMode(dialog.OpensFile ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+    setFileMode(dialog.OpensFile ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    setNameFilters(NameFilters(dialog.Filter));
+    setDefaultSuffix(ToQt(dialog.DefaultExt));
+    FitColumns(*this);
+    const QString before = ToQt(dialog.FileName);
+    if (!before.isEmpty() && QFileInfo(before).dir().exists()) selectFile(before);
+  }
+  std::string Chosen() const { return selectedFiles().value(0).toStdString(); }
+
+  void accept() override {
+    const bool goesThere = QFileInfo(ToQt(Chosen())).isDir();
+    const std::string objection = objection_ && !goesThere ? objection_(Chosen()) : std::string();
+    if (objection.empty()) return QFileDialog::accept();
+    services_.MessageBox(objection);
+  }
+
+ private:
+  Services& services_;
+  const std::function<std::string(const std::string&)> objection_;
+};
+
 }  // namespace
 
 Answer QtServices::MessageBox(const std::string& text, const std::string& title, Buttons buttons, Icon icon) {
@@ -71,30 +103,15 @@ Answer QtServices::MessageBox(const std::string& text, const std::string& title,
   return Answer::Ok;
 }
 
-/// The toolkit's own dialog on every desktop: only the extension that was asked for is ever added to a name.
 bool QtServices::ChooseFile(FileDialog& dialog) {
   // Some window managers lose the keyboard when a box and the dialog below it close at the same time.
   const auto activateBelow = qScopeGuard([to = QPointer<QWidget>(WindowBelow())] {
     if (to) to->activateWindow();
   });
-  QFileDialog chooser(WindowBelow(), ToQt(dialog.DialogTitle), ToQt(dialog.InitDir));
-  chooser.setOption(QFileDialog::DontUseNativeDialog);
-  chooser.setAcceptMode(dialog.OpensFile ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
-  chooser.setFileMode(dialog.OpensFile ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-  chooser.setNameFilters(NameFilters(dialog.Filter));
-  chooser.setDefaultSuffix(ToQt(dialog.DefaultExt));
-  FitColumns(chooser);
-  if (QFileInfo(ToQt(dialog.FileName)).dir().exists() && !dialog.FileName.empty())
-    chooser.selectFile(ToQt(dialog.FileName));
-  while (chooser.exec() == QDialog::Accepted) {
-    const QFileInfo chosen(chooser.selectedFiles().value(0));
-    if (chosen.dir().exists()) {
-      dialog.FileName = chosen.filePath().toStdString();
-      return true;
-    }
-    MessageBox(dialog.NoSuchFolder + "\n\n" + chosen.path().toStdString(), {}, Buttons::Ok, Icon::None);
-  }
-  return false;
+  Chooser chooser(*this, dialog);
+  if (chooser.exec() != QDialog::Accepted) return false;
+  dialog.FileName = chooser.Chosen();
+  return true;
 }
 
 }  // namespace platform::qt

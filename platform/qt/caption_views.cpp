@@ -1,4 +1,5 @@
 // Controls with a caption: labels, buttons, check boxes, option buttons and frames.
+#include <QAccessibleWidget>
 #include <QCheckBox>
 #include <QFontMetrics>
 #include <QLabel>
@@ -125,7 +126,7 @@ class FrameView : public QWidget, public ControlView {
     if (aspect == Aspect::Caption) update();
     setAccessibleName(ToQt(frame_.Caption.Get()));
   }
-  QAccessible::Role SpokenRole() const override { return QAccessible::Grouping; }
+  QAccessibleInterface* MakeSpoken() override { return new QAccessibleWidget(this, QAccessible::Grouping); }
 
  protected:
   void paintEvent(QPaintEvent*) override {

@@ -21,8 +21,8 @@ class ControlView {
   /// Brings one aspect of the widget up to date.
   virtual void Update(Aspect aspect);
   void UpdateAll();
-  /// What a screen reader calls it; NoRole: what the toolkit says.
-  virtual QAccessible::Role SpokenRole() const { return QAccessible::NoRole; }
+  /// What a screen reader gets to know of the widget, owned by the caller; null: what the toolkit says.
+  virtual QAccessibleInterface* MakeSpoken() { return nullptr; }
 
  protected:
   /// `widget` shows `control`; it is the derived object itself.

@@ -17,6 +17,7 @@ class LineView : public QLineEdit, public ControlView {
   LineView(TextBox& box, QWidget* parent) : QLineEdit(parent), ControlView(box, *this), box_(box) {
     setReadOnly(box.ReadOnly);
     setAlignment(ToQt(box.Align));
+    // Also for a text that is pasted, composed or set by an assistive tool.
     connect(this, &QLineEdit::textChanged, this,
             [&box](const QString& text) { box.Owner()->Type(box, text.toStdString()); });
   }
@@ -59,6 +60,8 @@ class PaneView : public QPlainTextEdit, public ControlView {
   TextBox& box_;
 };
 
+/// The current row, from which arrow keys and wheel start, is always that of the text. Therefore the toolkit finds no
+/// typed text that it would take for a pick when the field is left.
 class ComboView : public QComboBox, public ControlView {
  public:
   ComboView(ComboBox& box, QWidget* parent) : QComboBox(parent), ControlView(box, *this), box_(box) {
@@ -72,7 +75,7 @@ class ComboView : public QComboBox, public ControlView {
   void Update(Aspect aspect) override {
     const QSignalBlocker ownChange(*this);
     if (aspect == Aspect::List) FillList();
-    if (aspect == Aspect::Text && currentText() != ToQt(box_.Text.Get())) setEditText(ToQt(box_.Text.Get()));
+    if (aspect == Aspect::Text || aspect == Aspect::List) ShowText(ToQt(box_.Text.Get()));
     // The field inside has the keyboard.
     if (aspect == Aspect::Spoken) lineEdit()->setAccessibleName(ToQt(box_.SpokenName.Get()));
     ControlView::Update(aspect);
@@ -80,10 +83,15 @@ class ComboView : public QComboBox, public ControlView {
 
  private:
   void FillList() {
-    const QString text = currentText();
     clear();
     for (const std::string& item : box_.List()) addItem(ToQt(item));
+  }
+  void ShowText(const QString& text) {
+    const int cursor = currentText() == text ? lineEdit()->cursorPosition() : static_cast<int>(text.size());
+    setCurrentIndex(findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    if (currentText() == text) return;
     setEditText(text);
+    lineEdit()->setCursorPosition(cursor);
   }
 
   ComboBox& box_;

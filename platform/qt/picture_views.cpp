@@ -1,9 +1,14 @@
 // Controls with pictures: picture boxes and the tool bar.
+#include <QAccessibleWidget>
+#include <QBasicTimer>
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QStyleHints>
 #include <QStyleOptionFrame>
+#include <QStylePainter>
 #include <QToolButton>
 #include <utility>
 #include <vector>
@@ -15,6 +20,25 @@
 
 namespace platform::qt {
 namespace {
+
+/// A picture that can be clicked offers a screen reader both mouse buttons as actions.
+class SpokenPicture : public QAccessibleWidget {
+ public:
+  SpokenPicture(PictureBox& box, QWidget* widget)
+      : QAccessibleWidget(widget, box.MouseUp ? QAccessible::Button : QAccessible::Graphic), box_(box) {}
+
+  QStringList actionNames() const override {
+    if (!box_.MouseUp) return {};
+    return {QAccessibleActionInterface::pressAction(), QAccessibleActionInterface::showMenuAction()};
+  }
+  void doAction(const QString& name) override {
+    const bool first = name == QAccessibleActionInterface::pressAction();
+    if (actionNames().contains(name)) box_.Owner()->MouseUp(box_, first ? MouseButton::Left : MouseButton::Right);
+  }
+
+ private:
+  PictureBox& box_;
+};
 
 class PictureView : public DrawnWidget, public ControlView {
  public:
@@ -28,7 +52,7 @@ class PictureView : public DrawnWidget, public ControlView {
     if (aspect == Aspect::Drawing) DrawingChanged();
     ControlView::Update(aspect);
   }
-  QAccessible::Role SpokenRole() const override { return QAccessible::Graphic; }
+  QAccessibleInterface* MakeSpoken() override { return new SpokenPicture(box_, this); }
 
  protected:
   void paintEvent(QPaintEvent* event) override {
@@ -42,8 +66,24 @@ class PictureView : public DrawnWidget, public ControlView {
     Paint(painter, event->region(), ground, box_.Image, contentsRect().topLeft());
     PaintBorder(painter);
   }
-  void mousePressEvent(QMouseEvent* event) override { pressed_ = event->button(); }
+  /// A long press by a finger or a pen is a click by the second button.
+  void mousePressEvent(QMouseEvent* event) override {
+    using Pointer = QPointingDevice::PointerType;
+    pressed_ = event->button();
+    const bool isTouch = event->pointerType() == Pointer::Finger || event->pointerType() == Pointer::Pen;
+    if (!isTouch || pressed_ != Qt::LeftButton) return;
+    longPress_.start(QGuiApplication::styleHints()->mousePressAndHoldInterval(), this);
+  }
+  void mouseMoveEvent(QMouseEvent* event) override {
+    if (!rect().contains(event->position().toPoint())) longPress_.stop();
+  }
+  void timerEvent(QTimerEvent* event) override {
+    if (event->timerId() != longPress_.timerId()) return DrawnWidget::timerEvent(event);
+    longPress_.stop();
+    if (std::exchange(pressed_, Qt::NoButton) == Qt::LeftButton) box_.Owner()->MouseUp(box_, MouseButton::Right);
+  }
   void mouseReleaseEvent(QMouseEvent* event) override {
+    longPress_.stop();
     const bool pressedHere = std::exchange(pressed_, Qt::NoButton) == event->button();
     if (!pressedHere || !rect().contains(event->position().toPoint())) return;
     box_.Owner()->MouseUp(box_, ButtonOf(event->button()));
@@ -66,6 +106,29 @@ class PictureView : public DrawnWidget, public ControlView {
 
   PictureBox& box_;
   Qt::MouseButton pressed_ = Qt::NoButton;
+  QBasicTimer longPress_;
+};
+
+/// Draws its picture for the screen that it is on now.
+class ToolButton : public QToolButton {
+ public:
+  ToolButton(const Picture& picture, QWidget* parent) : QToolButton(parent), picture_(picture) {
+    setAutoRaise(true);
+    setFocusPolicy(Qt::NoFocus);
+    setIconSize(SizeOf(picture));
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QStylePainter painter(this);
+    QStyleOptionToolButton option;
+    initStyleOption(&option);
+    option.icon = QIcon(PixmapOf(picture_, devicePixelRatioF()));
+    painter.drawComplexControl(QStyle::CC_ToolButton, option);
+  }
+
+ private:
+  const Picture picture_;
 };
 
 /// Flat buttons in a row, with rules between their groups.
@@ -100,12 +163,7 @@ class ToolBarView : public QWidget, public ControlView {
   static constexpr int kMargin = 2;
 
   QToolButton* MakeButton(int index, int left) {
-    auto* button = new QToolButton(this);
-    const Picture& picture = bar_.Image(index);
-    button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::NoFocus);
-    button->setIconSize(SizeOf(picture));
-    button->setIcon(PixmapOf(picture, devicePixelRatioF()));
+    auto* button = new ToolButton(bar_.Image(index), this);
     button->setGeometry(left, kMargin, kButton, kButton);
     connect(button, &QToolButton::clicked, button, [this, index] { bar_.Owner()->ClickTool(bar_, index); });
     return button;

@@ -16,8 +16,9 @@
 namespace platform::qt {
 namespace {
 
-constexpr int kLongestSide = 1280;                // pixels
-constexpr qint64 kLargestFile = 8 * 1024 * 1024;  // bytes
+constexpr int kSeen = 1280;                        // pixels; larger than any window at 100 in 100
+constexpr qint64 kMostPixels = 50'000'000;         // a decoder may keep them all at a time
+constexpr qint64 kLargestFile = 32 * 1024 * 1024;  // bytes
 
 /// A drawing or an image, and the pixels made from it last.
 struct Decoded {
@@ -82,7 +83,9 @@ QImage ReadImageFile(const QString& path) {
   QImageReader reader(path, "jpeg");
   reader.setAutoDetectImageFormat(false);
   const QSize size = reader.size();
-  return std::max(size.width(), size.height()) > kLongestSide ? QImage() : reader.read();
+  if (static_cast<qint64>(size.width()) * size.height() > kMostPixels) return {};
+  reader.setClipRect(QRect(QPoint(), size.boundedTo({kSeen, kSeen})));
+  return reader.read();
 }
 
 void ForgetPictures() { kept.clear(); }

@@ -13,7 +13,8 @@
 namespace platform::qt {
 
 /// The JPEG picture in the file; empty if there is none. Only regular files are opened, as reading a pipe would never
-/// end, and a picture much larger than any window is not decoded.
+/// end. Of a picture larger than any window the top left part is kept. Pictures of more than 50 megapixels or 32 MiB
+/// are refused.
 QImage ReadImageFile(const QString& path);
 
 /// The natural size in pixels; empty for a picture that cannot be loaded.

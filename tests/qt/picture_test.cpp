@@ -53,13 +53,17 @@ TEST(Pictures, AllDrawingsOfTheFormsLoadAtTheirSize) {
   EXPECT_TRUE(platform::qt::SizeOf({"no-such.jpg", false}).isEmpty());
 }
 
-TEST(Pictures, AFileIsDecodedWhereItIsAPictureOfUsefulSize) {
+TEST(Pictures, OfAFileThatIsAPictureTheTopLeftPartIsDecoded) {
   const QTemporaryDir folder;
   const QString path = folder.filePath("picture.jpg");
-  for (const auto& [width, whole] : {std::pair{1280, true}, {1281, false}}) {
-    QImage(width, 7, QImage::Format_RGB32).save(path);
-    EXPECT_EQ(ReadImageFile(path).width(), whole ? width : 0);
-  }
+  QImage large(3000, 1500, QImage::Format_RGB32);
+  large.fill(Qt::white);
+  QPainter(&large).fillRect(0, 0, 1280, 1280, Qt::blue);
+  large.save(path, nullptr, 100);
+  const QImage part = ReadImageFile(path);
+  EXPECT_EQ(part.size(), QSize(1280, 1280));
+  for (const QPoint corner : {QPoint(), QPoint(1270, 1270)}) EXPECT_GT(part.pixelColor(corner).blue(), 200);
+  EXPECT_LT(part.pixelColor(1270, 1270).red(), 50);
   QFile::resize(path, 100'000'000);
   EXPECT_TRUE(ReadImageFile(path).isNull());
   QFile::remove(path);

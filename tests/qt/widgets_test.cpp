@@ -1,0 +1,96 @@
+// What the toolkit's widgets do by themselves, and what comes from fingers and assistive tools, reaches the model as
+// told.
+#include <QAccessible>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QStyleHints>
+#include <QTimer>
+
+#include "../../platform/qt/pictures.h"
+#include "../../platform/qt/qt_services.h"
+#include "../../windows/image_lists.h"
+#include "real_windows.h"
+
+namespace {
+
+using Widgets = tests::RealWindows;
+
+TEST_F(Widgets, AListGoesOnFromTheEntryThatItShows) {
+  Window.State.settings.AutoHG = core::kOff;
+  Window.State.settings.HG = 3;
+  Window.F8.OpenSettings();
+  auto& list = static_cast<QComboBox&>(WidgetOf(Window.F8.cmbHG));
+  list.setFocus();
+  Type(Window.F8, Qt::Key_Up);
+  EXPECT_EQ(Window.State.settings.HG, 2);
+  int picks = 0;
+  Window.F8.cmbHG.Click = [&picks] { ++picks; };
+  for (const char* typed : {"x", Window.F8.cmbHG.List()[0].c_str()}) {
+    list.lineEdit()->clear();
+    for (const char letter : std::string(typed)) QTest::keyClick(&list, letter);
+  }
+  WidgetOf(Window.F8.comSelectLang).setFocus();
+  EXPECT_EQ(picks, 0) << "typed text is no pick, nor when the field is left";
+  EXPECT_EQ(list.currentIndex(), 0);
+}
+
+TEST_F(Widgets, ALongPressIsTheSecondButton) {
+  QGuiApplication::styleHints()->setMousePressAndHoldInterval(20);
+  QPointingDevice* finger = QTest::createTouchDevice();
+  QWidget& die = WidgetOf(Window.F1.picWurfel(0));
+  const QPoint at = die.mapTo(die.window(), die.rect().center());
+  QWindow* window = die.window()->windowHandle();
+  QTest::touchEvent(window, finger).press(0, at, window);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Window.State.figures.TotalRolls == 1; }));
+  QTest::touchEvent(window, finger).release(0, at, window);
+  EXPECT_FALSE(Window.F7.Visible);
+  QTest::touchEvent(window, finger).press(0, at, window);
+  QTest::touchEvent(window, finger).release(0, at, window);
+  EXPECT_TRUE(Window.F7.Visible);
+}
+
+TEST_F(Widgets, AssistiveToolsPressPicturesAndSetTexts) {
+  QAccessibleInterface* die = QAccessible::queryAccessibleInterface(&WidgetOf(Window.F1.picWurfel(0)));
+  die->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+  EXPECT_EQ(Window.State.figures.TotalRolls, 1);
+  QAccessible::queryAccessibleInterface(&WidgetOf(Window.F1.picSP(0)))->actionInterface()->doAction("Press");
+  EXPECT_TRUE(Window.F4.Visible);
+  Window.F4.PressCloseBox();
+  Type(Window.F1, Qt::Key_I, Qt::ControlModifier);
+  QAccessible::queryAccessibleInterface(&WidgetOf(Window.F6.Info.txtSpielinfo))->setText(QAccessible::Value, "Finale");
+  EXPECT_EQ(Window.F6.Info.txtSpielinfo.Text.Get(), "Finale");
+}
+
+TEST_F(Widgets, ObjectionsAreShownOverTheFileDialogWhichStaysAsItIs) {
+  platform::qt::QtServices services({});
+  platform::FileDialog dialog;
+  dialog.InitDir = "/";
+  dialog.Objection = [](const std::string& path) { return "not " + path; };
+  QString refused, kept;
+  QTimer::singleShot(0, [&] {
+    auto* chooser = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    auto* name = chooser->findChild<QLineEdit*>();
+    name->setText("none/game");
+    QTimer::singleShot(0, [&] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (box) refused = box->text();
+      if (box && chooser->isVisible()) kept = name->text();
+      QApplication::activeModalWidget()->close();
+    });
+    QTest::keyClick(name, Qt::Key_Return);
+    chooser->close();
+  });
+  EXPECT_FALSE(services.ChooseFile(dialog));
+  EXPECT_EQ(refused.toStdString() + " " + kept.toStdString(), "not /none/game none/game");
+}
+
+TEST(Pictures, TheIconNeedsNoPluginOfTheToolkit) {
+  const QIcon icon = platform::qt::IconOf(windows::kProgramIcon, windows::kSmallProgramIcon);
+  for (const QSize size : icon.availableSizes())
+    EXPECT_NE(icon.pixmap(size).toImage().pixelColor(size.width() / 2, size.height() / 2).alpha(), 0);
+  EXPECT_EQ(icon.availableSizes().size(), 7);
+}
+
+}  // namespace
