@@ -79,7 +79,9 @@ void F11::DrawRow(const core::TPlayer& player, int y) {
   platform::Surface& table = picShowPlayers.Drawing;
   const int metropolises = core::MetropolisCount(player);
   table.ForeColor = player.Cities == 0 || metropolises == player.Cities ? kSpared : platform::kBlack;
+  table.Halo.reset();
   table.PrintAt(kNameX, y, player.Name);
+  table.Halo = windows::kPaper;  // a long name passes beneath the figures
   table.PrintAt(kCitiesX, y, std::to_string(player.Cities) + "/");
   table.PrintAt(kMetropolisesX, y, std::to_string(metropolises));
   table.PrintAt(kSettlementsX, y, std::to_string(player.Settlements));

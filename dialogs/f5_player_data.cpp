@@ -81,6 +81,7 @@ F5::F5(const windows::Context& context)
     txtData(row).Change = [this, row] { F5_txtData_Change(row); };
     txtData(row).KeyUp = [this, row](platform::KeyCode, platform::Modifiers) { F5_txtData_KeyUp(row); };
     if (row == 0) continue;
+    lblData(row).Middle = true;
     txtData(row).Align = platform::Alignment::Centre;
     cmdMinus(row - 1).Caption = "-";
     cmdPlus(row - 1).Caption = "+";

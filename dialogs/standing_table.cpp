@@ -6,6 +6,7 @@
 #include "../core/numbers.h"
 #include "../core/points.h"
 #include "../core/texts.h"
+#include "../windows/form_metrics.h"
 #include "../windows/image_lists.h"
 
 namespace dialogs {
@@ -13,9 +14,13 @@ namespace {
 
 using core::State;
 using core::TPlayer;
+using platform::Colour;
 using platform::Surface;
 
-constexpr platform::Colour kNotHeld{100, 100, 100};
+constexpr Colour kNotHeld{100, 100, 100};
+constexpr Colour kFirstRow{255, 234, 190};
+constexpr Colour kEvenRow{236, 231, 217};
+constexpr int kTableWidth = 481;
 constexpr int kRowHeight = 18;
 constexpr int kRankX = 6;
 constexpr int kNameX = 30;
@@ -67,12 +72,20 @@ void DrawCells(const TPlayer& player, std::int16_t gameType, bool inPoints, int 
   }
 }
 
-void DrawHead(const core::RankedPlayer& ranked, int y, Surface& table) {
+/// The first row has a warm ground, every second one of the others a faint one.
+Colour GroundOf(int place) {
+  if (place == 0) return kFirstRow;
+  return place % 2 == 0 ? kEvenRow : windows::kPaper;
+}
+
+void DrawHead(const core::RankedPlayer& ranked, int place, int y, Surface& table) {
   table.ForeColor = platform::kBlack;
   table.FontSize = 12;
   table.FontBold = true;
   table.PrintAt(kRankX, y, std::to_string(ranked.Rank) + ".");
+  table.Halo.reset();
   table.PrintAt(kNameX, y, ranked.Name);
+  table.Halo = GroundOf(place);  // a long name passes beneath the figures
   table.PrintAt(kPointsX, y, core::PrintedNumber(ranked.Points));
 }
 
@@ -114,14 +127,19 @@ std::string SpokenStanding(const State& state, const std::vector<core::RankedPla
 void DrawStandingTable(const State& state, const std::vector<core::RankedPlayer>& ranking, Surface& picRanking) {
   const core::Game& game = state.game;
   picRanking.Cls();
-  int y = 1;
+  const int rows = static_cast<int>(ranking.size());
+  for (int place = 0; place < rows; ++place) {
+    picRanking.FillBox(0, place * kRowHeight, kTableWidth, (place + 1) * kRowHeight, GroundOf(place));
+  }
+  int place = 0;
   for (const core::RankedPlayer& ranked : ranking) {
-    DrawHead(ranked, y, picRanking);
+    const int y = place * kRowHeight + 1;
+    DrawHead(ranked, place, y, picRanking);
     picRanking.FontBold = false;
     for (const TPlayer& player : PlayersOf(ranked, game)) {
       DrawCells(player, game.GameType, state.settings.SiegAnzeige.IsOff(), y, picRanking);
     }
-    y += kRowHeight;
+    ++place;
   }
 }
 

@@ -16,6 +16,11 @@ using platform::Surface;
 constexpr Colour kLeading = Colour::FromBgr(0x00FFFF);
 constexpr Colour kFollowing = Colour::FromBgr(0x0099CC);
 
+/// The grounds of the seats around the points, in all themes: of a follower and of a leader.
+constexpr Colour kGrounds[core::kSeats][2] = {{{65, 13, 18}, {139, 25, 31}}, {{12, 28, 81}, {27, 60, 161}},
+                                              {{7, 40, 19}, {19, 89, 39}},   {{58, 27, 5}, {122, 60, 7}},
+                                              {{41, 15, 77}, {85, 35, 153}}, {{31, 33, 38}, {70, 77, 85}}};
+
 // Pixels of a panel, 185 by 57.
 constexpr int kPanelWidth = 185;
 constexpr int kSymbolPitch = 16;
@@ -47,7 +52,9 @@ void PaintPanel(const State& state, int seat, Surface& panel) {
   PaintSymbols(state.game.Players[seat], panel);
   Write(panel, 8, false, kTextX, kLabelY, state.Text(core::text::Player) + " " + std::to_string(seat));
   Write(panel, 18, true, kTextX, kNameY, state.game.Players[seat].Name);
+  panel.Halo = kGrounds[seat - 1][state.figures.LeaderFlag[seat] ? 1 : 0];  // a long name passes beneath
   Write(panel, 32, true, points <= 9 ? kOneDigitX : kTwoDigitsX, kPointsY, core::PrintedNumber(points));
+  panel.Halo.reset();
 }
 
 /// Seat, name and points; a leader by the rank.

@@ -22,6 +22,7 @@ class Label : public Control {
   using Control::Control;
   Property<std::string> Caption{*this, Aspect::Caption};
   Alignment Align = Alignment::Left;
+  bool Middle = false;  ///< the text is in the middle of the height, else at the top
 };
 
 /// A button with a caption, a picture or both, the picture above the caption.

@@ -44,6 +44,7 @@ struct Page {
   double Width = 0;   ///< of the part of the sheet that is used, from its top left corner, in units. On smaller paper
   double Height = 0;  ///< the page is scaled down
   double TextRight = 0;  ///< no text reaches further, in units
+  bool Landscape = false;
   Surface Drawing = {};
 };
 

@@ -17,7 +17,7 @@ void Surface::Add(DrawingStep step) {
 void Surface::PrintAt(double x, double y, std::string text) { PrintWithin(x, y, 0, std::move(text)); }
 
 void Surface::PrintWithin(double x, double y, double room, std::string text) {
-  Add(TextStep{x, y, std::move(text), ForeColor, {FontName, FontSize, FontBold}, room});
+  Add(TextStep{x, y, std::move(text), ForeColor, {FontName, FontSize, FontBold}, room, Halo});
 }
 
 void Surface::Line(double x1, double y1, double x2, double y2, Colour ink) { Add(LineStep{x1, y1, x2, y2, ink}); }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -27,7 +28,8 @@ struct TextStep {
   std::string Text;
   Colour Ink;
   Font Face;
-  double Room = 0;  ///< greatest width in units; 0: no limit
+  double Room = 0;             ///< greatest width in units; 0: no limit
+  std::optional<Colour> Halo;  ///< around the letters, so that what is below does not touch them
   bool operator==(const TextStep&) const = default;
 };
 
@@ -61,6 +63,7 @@ class Surface {
   std::string FontName = "Verdana";
   double FontSize = 8.25;  ///< points
   bool FontBold = false;
+  std::optional<Colour> Halo;  ///< of the texts that are written; none: no halo
 
   /// Set by the owner of the surface. Called after each change.
   std::function<void()> OnChange;

@@ -71,7 +71,11 @@ void F10::F10_cmdPrintnow_Click() {
 }
 
 void F10::PrintGame() {
-  platform::Page page{.Width = kPageWidth, .Height = kPageHeight, .TextRight = kTextRight};
+  platform::Page page{.UnitsPerInch = kUnitsPerInch,
+                      .Width = kPageWidth,
+                      .Height = kPageHeight,
+                      .TextRight = kTextRight,
+                      .Landscape = true};
   DrawGameReport(state(), context_.services.DecimalSeparator(), page.Drawing);
   if (current_ == kPdfEntry) {
     WritePdf(page);

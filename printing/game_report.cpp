@@ -22,7 +22,6 @@ constexpr Colour kNotMoreOften{255, 0, 0};
 // Units of the page.
 constexpr int kMargin = 100;
 constexpr int kInfoY = 200;
-constexpr int kSheetWidth = 2480;  // of the narrower of the usual papers
 constexpr int kBoxTop = 400;
 constexpr int kBoxPitch = 200;
 constexpr int kBoxWidth = 800;
@@ -64,7 +63,7 @@ void DrawPlayer(const State& state, int seat, Surface& page) {
   const int top = kBoxTop + (seat - 1) * kBoxPitch;
   page.Box(kMargin, top, kMargin + kBoxWidth, top + kBoxHeight, platform::kBlack);
   int x = kMargin + 1;
-  for (const int symbol : core::SymbolsOf(player, (kSheetWidth - kMargin) / kSymbolPitch)) {
+  for (const int symbol : core::SymbolsOf(player, (kPageWidth - kMargin) / kSymbolPitch)) {
     page.PaintPicture(windows::imlIcons.Image(symbol), x, top + 1);
     x += kSymbolPitch;
   }
@@ -73,7 +72,9 @@ void DrawPlayer(const State& state, int seat, Surface& page) {
   page.FontSize = 18;
   page.FontBold = true;
   page.PrintWithin(kMargin + 1, top + kNameDown, pointsX - kMargin - 1, player.Name);
+  page.Halo = platform::kWhite;  // symbols may run beneath
   Write(page, 34, true, pointsX, top, core::PrintedNumber(points));
+  page.Halo.reset();
 }
 
 void DrawHeads(const State& state, Surface& page) {

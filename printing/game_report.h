@@ -1,4 +1,4 @@
-// The printed report: the whole game on one page, as a list of drawing steps in 1/300 inch, the same on every printer.
+// The printed report: the whole game on one page, as a list of drawing steps in 1/220 inch, the same on every printer.
 #pragma once
 
 #include <string>
@@ -8,11 +8,11 @@
 
 namespace printing {
 
-// In 1/300 inch: what the page takes of its sheet, down to below the total, and where its texts end on the narrower of
-// the usual papers.
-inline constexpr double kPageWidth = 2470;
-inline constexpr double kPageHeight = 1850;
-inline constexpr double kTextRight = 2440;
+inline constexpr int kUnitsPerInch = 220;
+/// Of a sheet on its side the page takes nearly all of A4, down to below the total; texts end at the right margin.
+inline constexpr int kPageWidth = 2540;
+inline constexpr int kPageHeight = 1800;
+inline constexpr int kTextRight = 2480;
 
 /// Draws the page. The figures of the chart (`TotalRolls`, `MaxDiceCount`, `DicePercent`) must be up to date; every
 /// drawing of the chart leaves them so. `decimalSeparator` is the system's.

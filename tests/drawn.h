@@ -22,8 +22,8 @@ inline std::string Hex(platform::Colour ink) {
 }
 
 /// The steps in their order: `1,28 'Ada' Arial 18+ FFFF00<99` is a bold text in a room of 99 (the face is told unless
-/// it is Verdana), `1,108-243,108 828282` a line, the same in brackets a filled box, in round ones an outline, `17,1
-/// imlIcons/04.svg` a picture.
+/// it is Verdana; a halo stands behind), `1,108-243,108 828282` a line, the same in brackets a filled box, in round
+/// ones an outline, `17,1 imlIcons/04.svg` a picture.
 inline Lines Drawn(const platform::Surface& surface) {
   Lines lines;
   for (const platform::DrawingStep& step : surface.Steps()) {
@@ -31,7 +31,7 @@ inline Lines Drawn(const platform::Surface& surface) {
       const std::string face = text->Face.Name == "Verdana" ? "" : text->Face.Name + " ";
       lines.push_back(At(text->X, text->Y) + " '" + text->Text + "' " + face + Number(text->Face.Size) +
                       (text->Face.Bold ? "+ " : " ") + Hex(text->Ink) +
-                      (text->Room > 0 ? "<" + Number(text->Room) : ""));
+                      (text->Room > 0 ? "<" + Number(text->Room) : "") + (text->Halo ? " on " + Hex(*text->Halo) : ""));
     } else if (const auto* picture = std::get_if<platform::PictureStep>(&step)) {
       lines.push_back(At(picture->X, picture->Y) + " " + picture->Image.Name);
     } else if (const auto* line = std::get_if<platform::LineStep>(&step)) {

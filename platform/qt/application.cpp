@@ -3,6 +3,7 @@
 #include <QAccessibleWidget>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QPalette>
 
 #include "control_view.h"
 #include "convert.h"
@@ -21,10 +22,26 @@ QAccessibleInterface* InterfaceOf(const QString&, QObject* object) {
   return view ? view->MakeSpoken() : nullptr;
 }
 
+/// Between text and ground, on light and dark desktops alike, with a contrast of about 3 to 1.
+void MakeDisabledTextReadable() {
+  constexpr double kOfText = 0.43;
+  QPalette palette;
+  const auto mix = [](int text, int ground) { return qRound(text * kOfText + ground * (1 - kOfText)); };
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    const QColor text = palette.color(QPalette::Active, role),
+                 ground = palette.color(QPalette::Active, QPalette::Window);
+    palette.setColor(
+        QPalette::Disabled, role,
+        QColor(mix(text.red(), ground.red()), mix(text.green(), ground.green()), mix(text.blue(), ground.blue())));
+  }
+  QApplication::setPalette(palette);
+}
+
 }  // namespace
 
 void SetLook() {
   QApplication::setStyle("Fusion");
+  MakeDisabledTextReadable();
   QApplication::setFont(ToQt(Font{}));
   QAccessible::installFactory(InterfaceOf);
 }

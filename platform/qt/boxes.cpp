@@ -1,13 +1,16 @@
 // Message boxes and the file dialog.
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
 #include <QScopeGuard>
 #include <QTreeView>
+#include <algorithm>
 #include <functional>
 
 #include "convert.h"
@@ -17,6 +20,7 @@ namespace platform::qt {
 namespace {
 
 constexpr int kLeastBoxWidth = 260;  // pixels
+constexpr int kTitleButtons = 120;   // pixels that a title bar's icon and buttons take
 
 /// The window below a new box: the active one or, between two boxes, the last one that is still visible. Null before
 /// there is any window.
@@ -25,6 +29,25 @@ QWidget* WindowBelow() {
   if (QWidget* active = QApplication::activeWindow()) last = active;
   while (last && !last->isVisible()) last = last->parentWidget();
   return last;
+}
+
+/// The program's type, captions without icons, no indent where there is no icon, and room for the whole title.
+void Tidy(QMessageBox& box) {
+  box.setFont(QApplication::font());
+  for (QAbstractButton* button : box.buttons()) button->setIcon({});
+  auto* grid = qobject_cast<QGridLayout*>(box.layout());
+  if (!grid) return;
+  QLayoutItem* first = grid->itemAtPosition(0, 0);
+  if (QSpacerItem* indent = first ? first->spacerItem() : nullptr) indent->changeSize(0, 0);
+  if (auto* text = box.findChild<QLabel*>("qt_msgbox_label")) {
+    int row = 0, column = 0, rows = 0, columns = 0;
+    grid->getItemPosition(grid->indexOf(text), &row, &column, &rows, &columns);
+    grid->setColumnStretch(column, 1);
+  }
+  QFont bold = box.font();
+  bold.setBold(true);
+  const int title = QFontMetrics(bold).horizontalAdvance(box.windowTitle()) + kTitleButtons;
+  grid->addItem(new QSpacerItem(std::max(kLeastBoxWidth, title), 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
 
 /// From "name|pattern|name|pattern" to the toolkit's filters. "*.*" means all files here, also those without a dot.
@@ -87,20 +110,18 @@ Answer QtServices::MessageBox(const std::string& text, const std::string& title,
   box.setTextFormat(Qt::PlainText);
   box.setText(ToQt(text));
   box.setWindowTitle(title.empty() ? QApplication::applicationName() : ToQt(title));
-  // A box with a short text would be too narrow for its title.
-  if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
-    grid->addItem(new QSpacerItem(kLeastBoxWidth, 0), grid->rowCount(), 0, 1, grid->columnCount());
-  }
   if (icon == Icon::Critical) box.setIcon(QMessageBox::Critical);
-  if (buttons == Buttons::YesNo) {
+  if (buttons == Buttons::Ok) {
+    box.setStandardButtons(QMessageBox::Ok);
+  } else {
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     box.setDefaultButton(QMessageBox::No);
     box.setEscapeButton(QMessageBox::No);
-    return box.exec() == QMessageBox::Yes ? Answer::Yes : Answer::No;
   }
-  box.setStandardButtons(QMessageBox::Ok);
-  box.exec();
-  return Answer::Ok;
+  Tidy(box);
+  const int pressed = box.exec();
+  if (buttons == Buttons::Ok) return Answer::Ok;
+  return pressed == QMessageBox::Yes ? Answer::Yes : Answer::No;
 }
 
 bool QtServices::ChooseFile(FileDialog& dialog) {

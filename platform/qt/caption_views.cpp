@@ -23,7 +23,7 @@ constexpr int kPictureGap = 4;  // pixels between picture and caption of a butto
 class LabelView : public QLabel, public ControlView {
  public:
   LabelView(Label& label, QWidget* parent) : QLabel(parent), ControlView(label, *this), label_(label) {
-    setAlignment(ToQt(label.Align) | Qt::AlignTop);
+    setAlignment(ToQt(label.Align) | (label.Middle ? Qt::AlignVCenter : Qt::AlignTop));
     setWordWrap(true);
     setTextFormat(Qt::PlainText);
   }

@@ -56,6 +56,7 @@ bool QtServices::Print(const std::string& printer, const Page& page) {
   if (info.isNull() || info.state() == QPrinter::Error) return false;
   QPrinter device(info, QPrinter::HighResolution);
   if (const QPageSize own = info.defaultPageSize(); own.isValid()) device.setPageSize(own);
+  device.setPageOrientation(page.Landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
   device.setFullPage(true);
   device.setDocName(QApplication::applicationName());
   return DrawPage(device, page) && LastJobWasTaken();
@@ -68,6 +69,7 @@ std::string QtServices::PdfOf(const Page& page) {
   QPdfWriter device(&bytes);
   device.setPageSize(QPageSize(QLocale::system().measurementSystem() == QLocale::ImperialUSSystem ? QPageSize::Letter
                                                                                                   : QPageSize::A4));
+  device.setPageOrientation(page.Landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
   device.setPageMargins(QMarginsF());
   device.setTitle(QApplication::applicationName());
   DrawPage(device, page);

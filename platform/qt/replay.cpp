@@ -1,6 +1,7 @@
 #include "replay.h"
 
 #include <QFontMetricsF>
+#include <QPainterPath>
 #include <algorithm>
 #include <cmath>
 
@@ -18,6 +19,7 @@ QRectF Measure::Between(double x1, double y1, double x2, double y2) const {
 void StepPainter::operator()(const TextStep& step) {
   UseFace(step);
   const QPointF foot = measure_.At(step.X, step.Y) + QPointF(0, painter_.fontMetrics().ascent());
+  DrawHalo(step, foot);
   const double room = RoomFor(step);
   if (room == 0) {
     painter_.drawText(foot, ToQt(step.Text));
@@ -61,6 +63,17 @@ void StepPainter::UseFace(const TextStep& step) {
   if (face_ && *face_ == step.Face) return;
   face_ = &step.Face;
   painter_.setFont(measure_.FaceOf(step));
+}
+
+void StepPainter::DrawHalo(const TextStep& step, const QPointF& foot) {
+  if (!step.Halo) return;
+  QPainterPath letters;
+  letters.addText(foot, painter_.font(), ToQt(step.Text));
+  const bool smooth = painter_.testRenderHint(QPainter::Antialiasing);
+  painter_.setRenderHint(QPainter::Antialiasing);
+  painter_.strokePath(letters,
+                      QPen(ToQt(*step.Halo), 2 * measure_.HaloWidth(), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter_.setRenderHint(QPainter::Antialiasing, smooth);
 }
 
 double StepPainter::RoomFor(const TextStep& step) const {

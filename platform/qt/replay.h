@@ -22,6 +22,8 @@ struct Measure {
   /// The box from one corner up to the other without it, at least one pixel wide and high.
   QRectF Between(double x1, double y1, double x2, double y2) const;
   QFont FaceOf(const TextStep& step) const { return ToQt(step.Face, pixelsPerPoint); }
+  /// How far a halo reaches around its letters, in the painter's units.
+  double HaloWidth() const { return 1.5 * pixelsPerPoint; }
 };
 
 inline constexpr Measure kInPixels{};
@@ -39,6 +41,8 @@ class StepPainter {
 
   /// Sets the painter to the colour and font of the text.
   void UseFace(const TextStep& step);
+  /// Draws the halo, if it has one, of a text whose face is in use. `foot`: where its base line begins.
+  void DrawHalo(const TextStep& step, const QPointF& foot);
 
  private:
   /// 0 for a text without limit.

@@ -39,8 +39,10 @@ void ScreenDrawing::Paint(QPainter& painter, const QRegion& within) const {
     const auto* text = std::get_if<TextStep>(&shown.Step);
     if (text && text->Room == 0) {
       paint.UseFace(*text);
-      const QPointF at = measure_.At(text->X, text->Y);
-      painter.drawStaticText(QPointF(at.x(), std::round(at.y() * ratio) / ratio), shown.Letters);
+      const QPointF given = measure_.At(text->X, text->Y);
+      const QPointF at(given.x(), std::round(given.y() * ratio) / ratio);
+      paint.DrawHalo(*text, at + QPointF(0, painter.fontMetrics().ascent()));
+      painter.drawStaticText(at, shown.Letters);
     } else {
       std::visit(paint, shown.Step);
     }
@@ -64,8 +66,9 @@ QStaticText ScreenDrawing::LaidOut(const TextStep& step) const {
 
 QRectF ScreenDrawing::ExtentOf(const DrawingStep& step, const QStaticText& letters) const {
   if (const auto* text = std::get_if<TextStep>(&step)) {
-    const double aside = text->Face.Size / 2;  // letters may lean out of their cells
-    return QRectF(measure_.At(text->X, text->Y), letters.size()).adjusted(-aside, 0, aside, 0);
+    const double halo = text->Halo ? measure_.HaloWidth() : 0;
+    const double aside = text->Face.Size / 2 + halo;  // letters may lean out of their cells
+    return QRectF(measure_.At(text->X, text->Y), letters.size()).adjusted(-aside, -halo, aside, halo);
   }
   if (const auto* line = std::get_if<LineStep>(&step)) return measure_.Between(line->X1, line->Y1, line->X2, line->Y2);
   if (const auto* box = std::get_if<BoxStep>(&step)) return measure_.Between(box->X1, box->Y1, box->X2, box->Y2);
