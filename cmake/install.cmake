@@ -11,8 +11,8 @@ if(NOT TARGET orvanbeg)
   return()
 endif()
 
-set(ORVANBEG_PACKAGING ${CMAKE_SOURCE_DIR}/packaging)
-set(ORVANBEG_FILLED_IN ${CMAKE_BINARY_DIR}/packaging)
+set(ORVANBEG_PACKAGING ${PROJECT_SOURCE_DIR}/packaging)
+set(ORVANBEG_FILLED_IN ${PROJECT_BINARY_DIR}/packaging)
 
 # Years and holders of the copyright, and the licence as a block of the form that Debian wants, both from LICENSE.
 file(READ LICENSE ORVANBEG_LICENCE)
@@ -25,8 +25,8 @@ configure_file(${ORVANBEG_PACKAGING}/orvanbeg.6.in ${ORVANBEG_FILLED_IN}/orvanbe
 
 install(TARGETS orvanbeg)
 install(DIRECTORY run/ DESTINATION ${ORVANBEG_DATA})
-install(FILES README.md ${ORVANBEG_FILLED_IN}/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
-install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES ${ORVANBEG_FILLED_IN}/copyright CHANGELOG.md docs/game-file.md docs/language-file.md docs/settings-file.md
+  DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES ${ORVANBEG_FILLED_IN}/orvanbeg.6 DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
 
 # What desktops look for. Its places count from the data folder, by the standards of the desktops.

@@ -1,31 +1,31 @@
 # The window system's side and the program. Only this part needs Qt.
-file(GLOB ORVANBEG_QT_SOURCES CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/platform/qt/*.cpp)
-add_library(platform_qt STATIC ${ORVANBEG_QT_SOURCES})
-target_link_libraries(platform_qt PUBLIC platform Qt6::Widgets Qt6::PrintSupport Qt6::Svg Qt6::DBus)
+file(GLOB ORVANBEG_QT_SOURCES CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/platform/qt/*.cpp)
+add_library(orvanbeg_platform_qt STATIC ${ORVANBEG_QT_SOURCES})
+target_link_libraries(orvanbeg_platform_qt PUBLIC orvanbeg_platform Qt6::Widgets Qt6::PrintSupport Qt6::Svg Qt6::DBus)
 
 # The artwork that the forms hold is compiled in, under its path below resources/.
-file(GLOB ORVANBEG_ARTWORK RELATIVE ${CMAKE_SOURCE_DIR}/resources CONFIGURE_DEPENDS
-  ${CMAKE_SOURCE_DIR}/resources/*.svg ${CMAKE_SOURCE_DIR}/resources/iml*/*.svg)
+file(GLOB ORVANBEG_ARTWORK RELATIVE ${PROJECT_SOURCE_DIR}/resources CONFIGURE_DEPENDS
+  ${PROJECT_SOURCE_DIR}/resources/*.svg ${PROJECT_SOURCE_DIR}/resources/iml*/*.svg)
 set(ORVANBEG_QRC "<RCC>\n<qresource prefix=\"/\">\n")
 foreach(picture IN LISTS ORVANBEG_ARTWORK)
-  string(APPEND ORVANBEG_QRC "<file alias=\"${picture}\">${CMAKE_SOURCE_DIR}/resources/${picture}</file>\n")
+  string(APPEND ORVANBEG_QRC "<file alias=\"${picture}\">${PROJECT_SOURCE_DIR}/resources/${picture}</file>\n")
 endforeach()
 string(APPEND ORVANBEG_QRC "</qresource>\n</RCC>\n")
 file(CONFIGURE OUTPUT artwork.qrc CONTENT "${ORVANBEG_QRC}")
-qt_add_resources(ORVANBEG_ARTWORK_SOURCE ${CMAKE_BINARY_DIR}/artwork.qrc)
-add_library(artwork OBJECT ${ORVANBEG_ARTWORK_SOURCE})
+qt_add_resources(ORVANBEG_ARTWORK_SOURCE ${PROJECT_BINARY_DIR}/artwork.qrc)
+add_library(orvanbeg_artwork OBJECT ${ORVANBEG_ARTWORK_SOURCE})
 
 add_executable(orvanbeg main.cpp)
-target_link_libraries(orvanbeg PRIVATE mainwindow platform_qt artwork)
+target_link_libraries(orvanbeg PRIVATE orvanbeg_mainwindow orvanbeg_platform_qt orvanbeg_artwork)
 target_compile_definitions(orvanbeg PRIVATE
   ORVANBEG_VERSION_MAJOR=${PROJECT_VERSION_MAJOR} ORVANBEG_VERSION_MINOR=${PROJECT_VERSION_MINOR}
   ORVANBEG_VERSION_REVISION=${PROJECT_VERSION_PATCH})
 
 # What stands beside the executable is copied whenever it changes.
-file(GLOB_RECURSE ORVANBEG_RUN_FILES CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/run/*)
-add_custom_command(OUTPUT ${CMAKE_BINARY_DIR}/run-files.stamp
-  COMMAND ${CMAKE_COMMAND} -E copy_directory ${CMAKE_SOURCE_DIR}/run ${CMAKE_BINARY_DIR}
-  COMMAND ${CMAKE_COMMAND} -E touch ${CMAKE_BINARY_DIR}/run-files.stamp
+file(GLOB_RECURSE ORVANBEG_RUN_FILES CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/run/*)
+add_custom_command(OUTPUT ${PROJECT_BINARY_DIR}/run-files.stamp
+  COMMAND ${CMAKE_COMMAND} -E copy_directory ${PROJECT_SOURCE_DIR}/run ${PROJECT_BINARY_DIR}
+  COMMAND ${CMAKE_COMMAND} -E touch ${PROJECT_BINARY_DIR}/run-files.stamp
   DEPENDS ${ORVANBEG_RUN_FILES})
-add_custom_target(run_files ALL DEPENDS ${CMAKE_BINARY_DIR}/run-files.stamp)
+add_custom_target(run_files ALL DEPENDS ${PROJECT_BINARY_DIR}/run-files.stamp)
 add_dependencies(orvanbeg run_files)

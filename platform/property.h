@@ -46,7 +46,7 @@ class Property {
   Property& operator=(const Property& other) { return *this = T(other.value_); }
 
   const T& Get() const { return value_; }
-  operator const T&() const { return value_; }
+  operator const T&() const { return value_; }  // NOLINT(google-explicit-constructor): reads like the value
   friend bool operator==(const Property& property, const T& value) { return property.value_ == value; }
 
  private:

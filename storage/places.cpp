@@ -34,7 +34,7 @@ bool IsInstalled(const path& program) {
 
 }  // namespace
 
-Places::Places(path program, path configuration, path documents)
+Places::Places(path program, const path& configuration, path documents)
     : installed_(IsInstalled(program)),
       files_(installed_ ? InstalledFiles(program) : std::move(program)),
       own_(configuration / kOwnFolder),

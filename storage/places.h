@@ -9,7 +9,7 @@ namespace storage {
 class Places {
  public:
   /// The folders of the executable, of the user's settings of all programs and of the user's documents.
-  Places(std::filesystem::path program, std::filesystem::path configuration, std::filesystem::path documents);
+  Places(std::filesystem::path program, const std::filesystem::path& configuration, std::filesystem::path documents);
 
   /// The folder of the files that come with the program.
   const std::filesystem::path& ProgramFiles() const { return files_; }

@@ -1,9 +1,7 @@
-# Brings the files about to be packed into the form that Debian wants: games in a folder of their own, no symbols, a
-# changelog, and what is long compressed.
+# Brings the files about to be packed into the form that Debian wants: games in a folder of their own, a changelog,
+# and what is long compressed.
 set(root ${CPACK_TEMPORARY_INSTALL_DIRECTORY}/usr)
 file(RENAME ${root}/bin ${root}/games)
 file(COPY ${CMAKE_CURRENT_LIST_DIR}/changelog DESTINATION ${root}/share/doc/orvanbeg NO_SOURCE_PERMISSIONS)
-execute_process(COMMAND strip --remove-section=.comment --remove-section=.note ${root}/games/orvanbeg
-  COMMAND_ERROR_IS_FATAL ANY)
 execute_process(COMMAND gzip -9n ${root}/share/doc/orvanbeg/changelog ${root}/share/man/man6/orvanbeg.6
   COMMAND_ERROR_IS_FATAL ANY)
