@@ -22,12 +22,14 @@ string(REPLACE "\n" "\n " ORVANBEG_LICENCE " ${CMAKE_MATCH_2}")
 string(REPLACE "\n \n" "\n .\n" ORVANBEG_LICENCE "${ORVANBEG_LICENCE}")
 configure_file(${ORVANBEG_PACKAGING}/copyright.in ${ORVANBEG_FILLED_IN}/copyright @ONLY)
 configure_file(${ORVANBEG_PACKAGING}/orvanbeg.6.in ${ORVANBEG_FILLED_IN}/orvanbeg.6 @ONLY)
+configure_file(${ORVANBEG_PACKAGING}/orvanbeg.de.6.in ${ORVANBEG_FILLED_IN}/orvanbeg.de.6 @ONLY)
 
 install(TARGETS orvanbeg)
 install(DIRECTORY run/ DESTINATION ${ORVANBEG_DATA})
 install(FILES ${ORVANBEG_FILLED_IN}/copyright CHANGELOG.md docs/game-file.md docs/language-file.md docs/settings-file.md
   DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES ${ORVANBEG_FILLED_IN}/orvanbeg.6 DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
+install(FILES ${ORVANBEG_FILLED_IN}/orvanbeg.de.6 DESTINATION ${CMAKE_INSTALL_MANDIR}/de/man6 RENAME orvanbeg.6)
 
 # What desktops look for. Its places count from the data folder, by the standards of the desktops.
 install(FILES ${ORVANBEG_PACKAGING}/orvanbeg.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)

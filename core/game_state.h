@@ -161,6 +161,8 @@ struct State {
   std::int16_t AboutFrame = 0;  ///< step of the about window's running list
 
   const std::string& Text(int number) const { return language.Text[number]; }
+  /// The text or, where the language does not have it, another.
+  const std::string& TextOr(int number, int other) const { return Text(Text(number).empty() ? other : number); }
 };
 
 /// Whether the number names a seat, 1 to 6.

@@ -6,8 +6,8 @@
 #include "../core/numbers.h"
 #include "../core/texts.h"
 #include "../platform/mnemonic.h"
-#include "../storage/code_page.h"
 #include "../windows/form_metrics.h"
+#include "../windows/storable_field.h"
 
 namespace dialogs {
 namespace {
@@ -88,7 +88,7 @@ F20::F20(const windows::Context& context)
       txtNOP(&fraSetPlayers, "txtNOP", kCountPlace),
       lblSpieler(&fraSetPlayers, "lblSpieler", kNameLabels),
       txtSpielername(&fraSetPlayers, "txtSpielername", kNames),
-      Info(this, kInfoFrame),
+      Info(this, kInfoFrame, state()),
       cmdStart(this, "cmdStart", kStartPlace),
       cmdCancel(this, "cmdCancel", kCancelPlace),
       picGameStatus(this, "picGameStatus", kStatusPictures) {
@@ -98,7 +98,7 @@ F20::F20(const windows::Context& context)
   cmdA(0).Caption = cmdB(0).Caption = "-";
   cmdA(1).Caption = cmdB(1).Caption = "+";
   for (int i = picGameStatus.First(); i <= picGameStatus.Last(); ++i) picGameStatus(i).Opaque = false;
-  for (int i = 0; i < core::kSeats; ++i) txtSpielername(i).Filter = storage::Storable;
+  for (int i = 0; i < core::kSeats; ++i) windows::KeepStorable(txtSpielername(i), state());
   WireEvents();
 }
 

@@ -25,16 +25,26 @@ F2::F2(const windows::Context& context)
   Caption = "Orvan Begleiter";
   txtInfo.MultiLine = true;
   txtInfo.ReadOnly = true;
+  txtInfo.Face = platform::Font{"Lucida Console", 8.25};  // the files have columns
   cmdOK.Caption = "OK";
   cmdOK.Default = true;
   cmdOK.Click = [this] { Visible = false; };
   Close = [this] { Visible = false; };
 }
 
+/// "readme_fr.txt" for "readme.txt" while the program speaks French.
+std::ifstream F2::OpenInLanguage(const std::filesystem::path& file) {
+  const std::string& code = context_.state.Text(core::text::LanguageCode);
+  std::filesystem::path translated = file;
+  translated.replace_filename(file.stem().string() + "_" + code + file.extension().string());
+  std::ifstream found = storage::OpenRegularFile(translated);
+  return found.is_open() ? std::move(found) : storage::OpenRegularFile(file);
+}
+
 void F2::ShowFile(const std::string& name) {
   txtInfo.Text = std::string();
   Caption = txtInfo.SpokenName = "Orvan Begleiter Readme";
-  std::ifstream file = storage::OpenRegularFile(context_.Places().ProgramFiles() / name);
+  std::ifstream file = OpenInLanguage(context_.Places().ProgramFiles() / name);
   if (!file.is_open()) return;
   storage::LineReader reader(file, storage::LineFeeds::EndLines);
   std::string text;

@@ -1,6 +1,9 @@
 // F2, the text viewer: shows a text file that comes with the program. It locks nothing.
 #pragma once
 
+#include <filesystem>
+#include <fstream>
+
 #include "../windows/dialog.h"
 
 namespace dialogs {
@@ -12,11 +15,13 @@ class F2 : public platform::Form {
   platform::TextBox txtInfo;
   platform::CommandButton cmdOK;
 
-  /// Shows the file of this name in the program's folder. One that cannot be read shows nothing: a hidden viewer stays
-  /// hidden, an open one is emptied.
+  /// Shows the file of this name in the program's folder, or the one of the language where there is one. A file that
+  /// cannot be read shows nothing: a hidden viewer stays hidden, an open one is emptied.
   void ShowFile(const std::string& name);
 
  private:
+  std::ifstream OpenInLanguage(const std::filesystem::path& file);
+
   windows::Context context_;
 };
 

@@ -6,9 +6,9 @@
 #include "../core/numbers.h"
 #include "../core/standing.h"
 #include "../core/texts.h"
-#include "../storage/code_page.h"
 #include "../windows/form_metrics.h"
 #include "../windows/image_lists.h"
+#include "../windows/storable_field.h"
 
 namespace dialogs {
 namespace {
@@ -91,7 +91,7 @@ F5::F5(const windows::Context& context)
     picSymbol(row - 1).Image = windows::imlIcons.Image(kTable[row].Symbol);
     picSymbol(row - 1).Opaque = false;
   }
-  txtData(0).Filter = storage::Storable;
+  windows::KeepStorable(txtData(0), state());
   cmdOK.Caption = "OK";
   cmdOK.Default = true;
   cmdOK.Click = [this] { LeaveAndScore(); };

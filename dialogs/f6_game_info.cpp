@@ -24,7 +24,7 @@ constexpr const char* kLineBreak = "\r\n";
 
 F6::F6(const windows::Context& context)
     : Dialog(context, "F6", kClientWidth, kClientHeight),
-      Info(this, kInfoFrame),
+      Info(this, kInfoFrame, state()),
       fraSpielart(this, "fraSpielart", kKindFrame),
       lblGameInfo(&fraSpielart, "lblGameInfo", kSummaryPlace),
       picGameStatus(this, "picGameStatus", kPictures),
@@ -55,7 +55,7 @@ void F6::PrepareGameInfo() {
 std::string F6::Summary() {
   const core::Game& game = state().game;
   std::string text = state().Text(game.GameType == core::kBaseGame ? text::BaseGame : text::FirstExpansion);
-  text += kLineBreak + std::to_string(game.NumPlayers) + " " + state().Text(text::Player);
+  text += kLineBreak + std::to_string(game.NumPlayers) + " " + state().TextOr(text::PlayersAfterNumber, text::Player);
   if (!game.OptFlottillen.IsOff()) text += kLineBreak + state().Text(text::SecondExpansion);
   if (!game.OptScenario.IsOff()) text += kLineBreak + state().Text(text::Scenario);
   return text + kLineBreak + state().Text(text::NeededToWin) + ": " + std::to_string(game.WinPoints) + " " +

@@ -91,11 +91,10 @@ void F7::ShowHotkeys() {
   }
 }
 
-/// Row and face in numbers, since the language has no words for the dice; the faces of the event die have names.
 std::string F7::Spoken(int row, int face) {
-  const std::string which = std::to_string(row + 1) + ": ";
-  if (face == 0) return which + "-";
-  return which + (row == kEventRow ? state().Text(windows::TextOfEventFace(face)) : std::to_string(face));
+  if (row == kEventRow) return face == 0 ? "-" : state().Text(windows::TextOfEventFace(face));
+  const std::string& die = state().Text(row == kBlackRow ? text::BlackDie : text::RedDie);
+  return die + ": " + (face == 0 ? "-" : std::to_string(face));
 }
 
 void F7::SetCaptions() {

@@ -78,7 +78,7 @@ void DrawClockStrip(const State& state, platform::Form& f1) {
 void ShowWhetherClocksRun(const State& state, platform::Services& services, platform::Form& f1) {
   const bool run = state.game.ClockRunning;
   (*f1.MenuBar)["mnuExtraClock"].Caption = state.Text(run ? text::MenuStopClock : text::MenuStartClock);
-  services.KeepScreenAwake(run, "The clock of the game is running");
+  services.KeepScreenAwake(run, state.Text(text::ClockRuns));
 }
 
 }  // namespace mainwindow

@@ -97,6 +97,7 @@ void MainWindow::SetCaptions() {
   for (int i = F1.picWurfel.First(); i <= F1.picWurfel.Last(); ++i) {
     F1.picWurfel(i).ToolTipText = State.Text(text::DiceToolTip);
   }
+  F1.picInfoLine.ToolTipText = State.Text(text::LastSixToolTip);
   for (windows::Dialog* dialog : Dialogs()) dialog->SetCaptions();
 }
 

@@ -104,6 +104,7 @@ class MainWindow : public core::Screen, private storage::GameFileEvents {
   bool LoadLanguage();
   bool ReadLanguageList();
   void ReadTexts();
+  void SpeakLanguage();
   void LoadSettings();
   void SaveSettings();
   void LoadGame();

@@ -11,7 +11,6 @@
 #include "../storage/language_file.h"
 #include "../storage/settings_file.h"
 #include "../storage/text_lines.h"
-#include "../windows/messages.h"
 #include "../windows/saving.h"
 #include "main_window.h"
 #include "themes.h"
@@ -23,6 +22,9 @@ namespace text = core::text;
 
 constexpr const char* kGameFiles = " (*.obg)|*.obg";
 constexpr const char* kAllFiles = " (*.*)|*.*";
+
+const std::string kNoLanguages =
+    "Die Sprachdatei fehlt oder enthält keine Sprache.\nThe language file is missing or holds no language.\n";
 
 }  // namespace
 
@@ -41,10 +43,7 @@ void MainWindow::F1_mnuFileSaveAs_Click() {
   const std::string filter = State.Text(text::GameFiles) + kGameFiles;
   if (!ChooseFile(text::MenuSaveAs, filter, false)) return;
   const auto written = storage::WriteWhole(cmdLS_.FileName, storage::GameFileText(State));
-  if (written) return;
-  const std::string where = cmdLS_.FileName + " (" + written.Cause.message() + ")";
-  services_.MessageBox(windows::InTwoLanguages("Das Spiel konnte nicht gespeichert werden:\n" + where,
-                                               "The game could not be saved:\n" + where));
+  if (!written) services_.MessageBox(windows::TextOfFailure(State, text::GameNotSaved, cmdLS_.FileName, written));
 }
 
 void MainWindow::F1_mnuFileLoad_Click() {
@@ -90,11 +89,8 @@ void MainWindow::SaveSettings() {
   const auto answer = services_.MessageBox(State.Text(text::ReallyQuit), title, platform::Buttons::YesNo);
   if (answer == platform::Answer::No) return;
   const auto path = context_.Places().SettingsFile();
-  if (!storage::WriteSettings(path, State)) {
-    services_.MessageBox(
-        windows::InTwoLanguages("Die Einstellungen konnten nicht gespeichert werden:\n" + path.string(),
-                                "The settings could not be saved:\n" + path.string()));
-  }
+  const auto written = storage::WriteSettings(path, State);
+  if (!written) services_.MessageBox(windows::TextOfFailure(State, text::SettingsNotSaved, path.string(), written));
   services_.Quit(0);
 }
 
@@ -113,15 +109,15 @@ bool MainWindow::LoadLanguage() {
   return true;
 }
 
-/// False if the file holds no language: the user is told, and the languages known so far stay.
+/// False if the file holds no language: the user is told, at the start in two languages, and the languages known so far
+/// stay.
 bool MainWindow::ReadLanguageList() {
   const auto path = context_.Places().LanguageFile();
   std::ifstream file = storage::OpenRegularFile(path);
   core::Language found = State.language;
   if (storage::ListLanguages(file, found) == 0) {
-    services_.MessageBox(
-        windows::InTwoLanguages("Die Sprachdatei fehlt oder enthält keine Sprache:\n" + path.string(),
-                                "The language file is missing or holds no language:\n" + path.string()));
+    const std::string& said = State.Text(text::NoLanguages);
+    services_.MessageBox((said.empty() ? kNoLanguages : said) + "\n" + path.string());
     return false;
   }
   State.language = found;
@@ -134,12 +130,17 @@ void MainWindow::ReadTexts() {
   const auto path = context_.Places().LanguageFile();
   std::ifstream file = storage::OpenRegularFile(path);
   const int count = storage::LoadTexts(file, State.language);
+  SpeakLanguage();
   if (count >= core::kTexts) return;
-  const std::string name = "\"" + State.language.Languages[0] + "\"";
   const std::string figures = std::to_string(std::max(count, 0)) + " / " + std::to_string(core::kTexts);
-  services_.MessageBox(
-      windows::InTwoLanguages("Die Sprache " + name + " ist unvollständig, " + figures + " Texte in\n" + path.string(),
-                              "The language " + name + " is incomplete, " + figures + " texts in\n" + path.string()));
+  services_.MessageBox(State.Text(text::LanguageIncomplete) + "\n" + State.language.Languages[0] + ", " + figures +
+                       "\n" + path.string());
+}
+
+void MainWindow::SpeakLanguage() {
+  platform::Words words{State.language.Languages[0], State.Text(text::LanguageCode), {}};
+  for (int word = 0; word < platform::kWords; ++word) words.Said.push_back(State.Text(text::ToolkitWords + word));
+  services_.Speak(words);
 }
 
 }  // namespace mainwindow

@@ -53,6 +53,8 @@ class TextBox : public Control {
   bool ReadOnly = false;
   bool MultiLine = false;
   std::function<void()> Change;
+  /// What the field has to say of what was typed last; a view shows it beside the field for a while.
+  Property<std::string> Notice{*this, Aspect::Notice};
   /// Turns what the user has typed into what the field accepts. Unset: everything is accepted.
   std::function<std::string(const std::string&)> Filter;
 

@@ -20,7 +20,8 @@ enum class Aspect {
   Focus,
   Font,
   Title,
-  Spoken
+  Spoken,
+  Notice
 };
 
 /// Is told when one of its properties has changed.

@@ -9,6 +9,7 @@
 
 #include "picture.h"
 #include "surface.h"
+#include "words.h"
 
 namespace platform {
 
@@ -52,6 +53,10 @@ class Services {
  public:
   virtual ~Services() = default;
 
+  /// Gives the toolkit's own boxes, dialogs and menus the words of a language. Before the first time they are in the
+  /// system's language.
+  virtual void Speak(const Words& words) = 0;
+
   /// Shows a message box and waits for the answer. Forms take no input meanwhile; timers go on. Without a title the
   /// box has the program's name. Closing a YesNo box answers No.
   virtual Answer MessageBox(const std::string& text, const std::string& title = {}, Buttons buttons = Buttons::Ok,
@@ -84,7 +89,7 @@ class Services {
   /// The folder that holds the running program.
   virtual std::filesystem::path ProgramFolder() = 0;
 
-  /// Today's date in the system's short form.
+  /// Today's date in the system's short form or, where that is not written in ASCII, as "2026-11-22".
   virtual std::string Today() = 0;
 
   /// The folder for the user's own settings of all programs.

@@ -5,7 +5,6 @@
 #include "../core/texts.h"
 #include "../platform/mnemonic.h"
 #include "../storage/safe_file.h"
-#include "../windows/messages.h"
 #include "../windows/saving.h"
 #include "game_report.h"
 
@@ -80,7 +79,7 @@ void F10::PrintGame() {
   if (current_ == kPdfEntry) {
     WritePdf(page);
   } else if (!context_.services.Print(current_, page)) {
-    TellFailure(current_);
+    context_.services.MessageBox(state().Text(text::GameNotPrinted) + "\n" + current_);
   }
 }
 
@@ -93,12 +92,9 @@ void F10::WritePdf(const platform::Page& page) {
   pdfFile_.DialogTitle = Caption;
   if (!context_.services.ChooseFile(pdfFile_) || pdfFile_.FileName.empty()) return;
   const auto written = storage::WriteWhole(pdfFile_.FileName, context_.services.PdfOf(page));
-  if (!written) TellFailure(pdfFile_.FileName + " (" + written.Cause.message() + ")");
-}
-
-void F10::TellFailure(const std::string& where) {
-  context_.services.MessageBox(windows::InTwoLanguages("Das Spiel konnte nicht gedruckt werden:\n" + where,
-                                                       "The game could not be printed:\n" + where));
+  if (!written) {
+    context_.services.MessageBox(windows::TextOfFailure(state(), text::GameNotPrinted, pdfFile_.FileName, written));
+  }
 }
 
 }  // namespace printing

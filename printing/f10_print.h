@@ -26,7 +26,6 @@ class F10 : public windows::Dialog {
   void ListPrinters();
   void PrintGame();
   void WritePdf(const platform::Page& page);
-  void TellFailure(const std::string& where);
   void F10_cmdPrintnow_Click();
 
   std::vector<std::string> printers_;  ///< in the order of the list

@@ -105,7 +105,9 @@ void DrawRows(const State& state, const std::string& separator, Surface& page) {
   for (int sum = core::kLowestSum; sum <= core::kHighestSum; ++sum) {
     const int y = kRowsY + (sum - 1) * kRowPitch;
     Write(page, 14, false, kSumX, y, std::to_string(sum));
-    page.PrintWithin(kCountX, y, kCountRoom, std::to_string(state.game.DiceCount[sum]) + " " + state.Text(text::Rolls));
+    const int count = state.game.DiceCount[sum];
+    const std::string& word = state.TextOr(count == 1 ? text::RollAfterOne : text::RollsAfterNumber, text::Rolls);
+    page.PrintWithin(kCountX, y, kCountRoom, std::to_string(count) + " " + word);
     page.PrintAt(kMeasuredX, y, core::PercentText(figures.DicePercent[sum], separator));
     page.PrintAt(kTheoryX, y, core::PlainText(core::DiceProbability[sum], separator) + "%");
     DrawBars(state, sum, y, barUnit, page);

@@ -13,6 +13,29 @@ constexpr std::array<char32_t, 32> kUpperControls{0x20AC, 0x0081, 0x201A, 0x0192
                                                   0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                                   0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
+// The nearest letters to those of these two ranges, each without its marks; a dot where there is none.
+struct Letters {
+  char32_t First;
+  std::string_view Nearest;
+};
+constexpr Letters kLetters[] = {{0x100,
+                                 "AaAaAaCcCcCcCcDdDdEeEeEeEeEeGgGgGgGgHhHhIiIiIiIiIiIiJjKkkLlLlLlL"
+                                 "lLlNnNnNnnNnOoOoOo..RrRrRrSsSsSs..TtTtTtUuUuUuUuUuUuWwYy.ZzZz..s"
+                                 "bBBb..OCcDDDd..EEF.G...IKkl..Nn.Oo..Pp.....tTtTUu.VYyZz........."
+                                 "....DDdLLlNNnAaIiOoUuUuUuUuUueAaAa..GgGgKkOoOo..jDDdGg..NnAa...."
+                                 "AaAaEeEeIiIiOoOoRrRrUuUuSsTt..HhNd..ZzAaEeOoOoOoOoYylntj..ACcLTs"
+                                 "z..BU.EeJj..RrYy"},
+                                {0x1E00,
+                                 "AaBbBbBbCcDdDdDdDdDdEeEeEeEeEeFfGgHhHhHhHhHhIiIiKkKkKkLlLlLlLlMm"
+                                 "MmMmNnNnNnNnOoOoOoOoPpPpRrRrRrRrSsSsSsSsSsTtTtTtTtUuUuUuUuUuVvVv"
+                                 "WwWwWwWwWwXxXxYyZzZzZzhtwyasssSdAaAaAaAaAaAaAaAaAaAaAaAaEeEeEeEe"
+                                 "EeEeEeEeIiIiOoOoOoOoOoOoOoOoOoOoOoOoUuUuUuUuUuUuUuYyYyYyYyLlVvYy"}};
+
+// Other characters that a keyboard, an input method or a copied text brings, and the nearest ones.
+constexpr std::pair<char32_t, char> kSigns[] = {{0x2010, '-'}, {0x2011, '-'},  {0x2012, '-'},  {0x2015, '-'},
+                                                {0x2212, '-'}, {0x2032, '\''}, {0x02BC, '\''}, {0x02B9, '\''},
+                                                {0x2009, ' '}, {0x202F, ' '},  {0x3000, ' '}};
+
 constexpr char32_t kInvalid = 0xFFFFFFFF;
 
 char32_t CharacterOfByte(unsigned char byte) {
@@ -59,6 +82,24 @@ std::optional<char> ByteOf(char32_t character) {
   return static_cast<char>(0x80 + (found - kUpperControls.begin()));
 }
 
+/// The nearest letter or sign; nothing where there is none.
+std::optional<char> NearestTo(char32_t character) {
+  for (const auto& [first, nearest] : kLetters) {
+    if (character < first || character - first >= nearest.size()) continue;
+    const char letter = nearest[character - first];
+    return letter == '.' ? std::nullopt : std::optional(letter);
+  }
+  const auto sign =
+      std::find_if(std::begin(kSigns), std::end(kSigns), [=](auto& pair) { return pair.first == character; });
+  return sign == std::end(kSigns) ? std::nullopt : std::optional(sign->second);
+}
+
+/// A mark upon the letter before it, a sign of the direction of writing and the like: nobody misses it.
+bool IsUnseen(char32_t character) {
+  return (character >= 0x300 && character <= 0x36F) || (character >= 0x200B && character <= 0x200F) ||
+         (character >= 0x202A && character <= 0x202E) || character == 0x2060 || character == 0xFEFF;
+}
+
 }  // namespace
 
 std::string FromCodePage(std::string_view bytes) {
@@ -77,12 +118,20 @@ std::string ToCodePage(std::string_view utf8) {
   return bytes;
 }
 
-std::string Storable(const std::string& utf8) {
+std::string Storable(const std::string& utf8, std::string* refused) {
   std::string text;
   std::string_view rest = utf8;
   while (!rest.empty()) {
+    const std::string_view before = rest;
     const char32_t character = TakeCharacter(rest);
-    if (character >= ' ' && ByteOf(character)) AppendUtf8(text, character);
+    if (character < ' ' || IsUnseen(character)) continue;
+    if (ByteOf(character)) {
+      AppendUtf8(text, character);
+    } else if (const auto nearest = NearestTo(character)) {
+      text += *nearest;
+    } else if (refused && refused->empty()) {
+      *refused = before.substr(0, before.size() - rest.size());
+    }
   }
   return text;
 }

@@ -39,8 +39,10 @@ class ScriptedServices : public platform::Services {
   std::filesystem::path Folder;           ///< the program's
   std::string Separator = ",";
   bool ScreenAwake = false;
-  int QuitStatus = -1;  ///< -1: not asked to quit
+  platform::Words Words;  ///< what the toolkit says
+  int QuitStatus = -1;    ///< -1: not asked to quit
 
+  void Speak(const platform::Words& words) override { Words = words; }
   platform::Answer MessageBox(const std::string& text, const std::string& title, platform::Buttons buttons,
                               platform::Icon icon) override {
     Boxes.push_back({text, title, buttons, icon});

@@ -1,8 +1,8 @@
 #include "game_info.h"
 
 #include "../core/texts.h"
-#include "../storage/code_page.h"
 #include "image_lists.h"
+#include "storable_field.h"
 
 namespace windows {
 namespace {
@@ -20,13 +20,13 @@ constexpr int kMostWithoutPicture = 4;  // players
 
 }  // namespace
 
-GameInfoFrame::GameInfoFrame(platform::Container* form, Place place)
+GameInfoFrame::GameInfoFrame(platform::Container* form, Place place, const core::State& state)
     : fraSpielInfo(form, "fraSpielInfo", place),
       lblC(&fraSpielInfo, "lblC", kTitleLabelPlace),
       txtSpieltitel(&fraSpielInfo, "txtSpieltitel", kTitlePlace),
       lblD(&fraSpielInfo, "lblD", kInfoLabelPlace),
       txtSpielinfo(&fraSpielInfo, "txtSpielinfo", kInfoPlace) {
-  txtSpieltitel.Filter = txtSpielinfo.Filter = storage::Storable;
+  for (auto* field : {&txtSpieltitel, &txtSpielinfo}) KeepStorable(*field, state);
 }
 
 void GameInfoFrame::SetCaptions(const core::State& state) {
@@ -51,7 +51,7 @@ void ShowGameStatus(const platform::ControlArray<platform::PictureBox>& pictures
   show(status.Flottillen, kFlottillenPicture, state.Text(text::SecondExpansion));
   show(status.Scenario, kScenarioPicture, state.Text(text::Scenario));
   show(status.Players > kMostWithoutPicture, kManyPlayersPicture,
-       std::to_string(status.Players) + " " + state.Text(text::Player));
+       std::to_string(status.Players) + " " + state.TextOr(text::PlayersAfterNumber, text::Player));
 }
 
 }  // namespace windows

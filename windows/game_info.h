@@ -9,7 +9,7 @@ namespace windows {
 
 /// The frame with the title and the info line of a game.
 struct GameInfoFrame {
-  GameInfoFrame(platform::Container* form, platform::Place place);
+  GameInfoFrame(platform::Container* form, platform::Place place, const core::State& state);
 
   platform::Frame fraSpielInfo;
   platform::Label lblC;

@@ -4,10 +4,15 @@
 #include <string>
 
 #include "../core/game_state.h"
+#include "../storage/safe_file.h"
 
 namespace windows {
 
 /// Why no file can be saved under this name, in words of the language; empty if it can.
 std::string ObjectionToSaving(const core::State& state, const std::string& path);
+
+/// A text of the language that tells of a failure, the file and the cause, one below the other.
+std::string TextOfFailure(const core::State& state, int failure, const std::string& file,
+                          const storage::WriteOutcome& outcome);
 
 }  // namespace windows

@@ -3,5 +3,5 @@
 set(root ${CPACK_TEMPORARY_INSTALL_DIRECTORY}/usr)
 file(RENAME ${root}/bin ${root}/games)
 file(COPY ${CMAKE_CURRENT_LIST_DIR}/changelog DESTINATION ${root}/share/doc/orvanbeg NO_SOURCE_PERMISSIONS)
-execute_process(COMMAND gzip -9n ${root}/share/doc/orvanbeg/changelog ${root}/share/man/man6/orvanbeg.6
-  COMMAND_ERROR_IS_FATAL ANY)
+file(GLOB_RECURSE pages ${root}/share/man/*.6)
+execute_process(COMMAND gzip -9n ${root}/share/doc/orvanbeg/changelog ${pages} COMMAND_ERROR_IS_FATAL ANY)

@@ -1,8 +1,6 @@
 #include "application.h"
 
 #include <QAccessibleWidget>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QPalette>
 
 #include "control_view.h"
@@ -53,9 +51,6 @@ Application::Application(char* programPath, const ProgramIdentity& program)
   QApplication::setWindowIcon(IconOf(program.Icon, program.SmallIcon));
   QApplication::setQuitOnLastWindowClosed(false);
   SetLook();
-  if (toolkitWords_.load(QLocale::system(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-    QApplication::installTranslator(&toolkitWords_);
-  }
 }
 
 Application::~Application() { ForgetPictures(); }

@@ -1,9 +1,7 @@
-// The Qt application: the program's name and icon, its look, what screen readers call its windows, and the toolkit's
-// own words (the buttons of message boxes) in the system's language.
+// The Qt application: the program's name and icon, its look, and what screen readers call its windows.
 #pragma once
 
 #include <QApplication>
-#include <QTranslator>
 
 #include "../picture.h"
 
@@ -29,7 +27,6 @@ class Application {
   int argumentCount_ = 1;
   char* arguments_[2];
   QApplication application_;
-  QTranslator toolkitWords_;
 };
 
 /// Sets the style and the font of all widgets, and what screen readers call them. Once, when there is an application.

@@ -7,8 +7,10 @@ namespace platform::qt {
 namespace {
 
 QString FamilyFor(const std::string& name) {
-  static const QMap<QString, QString> kStandIns{
-      {"Verdana", "DejaVu Sans"}, {"Arial", "Liberation Sans"}, {"MS Sans Serif", "Liberation Sans"}};
+  static const QMap<QString, QString> kStandIns{{"Verdana", "DejaVu Sans"},
+                                                {"Arial", "Liberation Sans"},
+                                                {"MS Sans Serif", "Liberation Sans"},
+                                                {"Lucida Console", "DejaVu Sans Mono"}};
   static QMap<QString, QString> chosen;
   const QString wanted = ToQt(name);
   auto found = chosen.find(wanted);

@@ -4,6 +4,7 @@
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
 #include <QTextOption>
+#include <QToolTip>
 #include <algorithm>
 
 #include "control_view.h"
@@ -18,15 +19,21 @@ class LineView : public QLineEdit, public ControlView {
     setReadOnly(box.ReadOnly);
     setAlignment(ToQt(box.Align));
     // Also for a text that is pasted, composed or set by an assistive tool.
-    connect(this, &QLineEdit::textChanged, this,
-            [&box](const QString& text) { box.Owner()->Type(box, text.toStdString()); });
+    connect(this, &QLineEdit::textChanged, this, [&box](const QString& text) {
+      box.Owner()->Type(box, text.normalized(QString::NormalizationForm_C).toStdString());
+    });
   }
   void Update(Aspect aspect) override {
     if (aspect == Aspect::Text) ShowText(ToQt(box_.Text.Get()));
+    if (aspect == Aspect::Notice) ShowNotice(ToQt(box_.Notice.Get()));
     ControlView::Update(aspect);
   }
 
  private:
+  void ShowNotice(const QString& notice) {
+    setAccessibleDescription(notice);
+    QToolTip::showText(mapToGlobal(rect().bottomLeft()), notice, this);
+  }
   /// A text from the program keeps the cursor's distance from the end in a field that the user is typing in, and is
   /// selected in one that was empty, so that the next key replaces it. In other fields the beginning of a long text is
   /// seen.

@@ -87,6 +87,14 @@ void FormWindow::BuildMenuBar() {
   menuBar_->setGeometry(0, 0, ToQt(form_.Position.Get()).width(), menuBar_->sizeHint().height());
 }
 
+/// The names of keys beside the menu entries are of the toolkit's language.
+void FormWindow::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::LanguageChange && form_.MenuBar) {
+    for (MenuItem& item : form_.MenuBar->Items()) ShowCaption(item);
+  }
+  QWidget::changeEvent(event);
+}
+
 /// The shortcut is only shown, not given to Qt: keys reach the form by its routing alone, so that none passes its lock.
 void FormWindow::ShowCaption(MenuItem& item) {
   QAction* action = actions_.value(&item);

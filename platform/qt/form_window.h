@@ -46,6 +46,7 @@ class FormWindow : public QWidget, public FormView {
   void closeEvent(QCloseEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void BuildMenuBar();

@@ -46,8 +46,12 @@ std::filesystem::path QtServices::DocumentsFolder() {
   return (QFileInfo(documents).isDir() ? documents : QDir::homePath()).toStdString();
 }
 
+/// Some languages write dates in letters or digits of their own, which no file of the program can hold.
 std::string QtServices::Today() {
-  return QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat).toStdString();
+  const QDate today = QDate::currentDate();
+  const QString text = QLocale::system().toString(today, QLocale::ShortFormat);
+  const bool plain = std::all_of(text.begin(), text.end(), [](QChar c) { return c >= ' ' && c <= '~'; });
+  return (plain ? text : today.toString(Qt::ISODate)).toStdString();
 }
 
 std::string QtServices::DecimalSeparator() { return QLocale::system().decimalPoint().toStdString(); }

@@ -3,6 +3,7 @@
 
 #include "../services.h"
 #include "screen_saver.h"
+#include "toolkit_language.h"
 
 namespace platform::qt {
 
@@ -10,6 +11,7 @@ class QtServices : public Services {
  public:
   explicit QtServices(Version programVersion) : programVersion_(programVersion) {}
 
+  void Speak(const Words& words) override { toolkit_.Use(words); }
   Answer MessageBox(const std::string& text, const std::string& title, Buttons buttons, Icon icon) override;
   void WaitWhileVisible(Form& form) override;
   bool ChooseFile(FileDialog& dialog) override;
@@ -30,6 +32,7 @@ class QtServices : public Services {
  private:
   const Version programVersion_;
   ScreenSaver screenSaver_;
+  ToolkitLanguage toolkit_;
 };
 
 }  // namespace platform::qt

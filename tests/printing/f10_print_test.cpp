@@ -60,7 +60,7 @@ TEST_F(PrintDialogTest, PdfGoesWhereTheUserWantsItAndWhatFailsIsTold) {
   EXPECT_TRUE(services.Boxes.empty());
   services.ChosenFile = Folder.string();
   services.PrinterFails = true;
-  for (const auto& [index, where] : {std::pair(0, services.ChosenFile + " ("), {1, "\nPDF\n"}}) {
+  for (const auto& [index, where] : {std::pair(0, services.ChosenFile + "\n\n"), {1, "\nPDF"}}) {
     Print(index);
     EXPECT_THAT(services.Boxes.at(static_cast<std::size_t>(index)).Text, testing::HasSubstr(where));
   }

@@ -1,10 +1,21 @@
-// Every caption of every language fits its control, and every drawn text the room that it has, in the real font.
+// Every window and box in every language: no word is of another one, every caption fits its control, and every drawn
+// text the room that it has, in the real font.
+#include <QAction>
+#include <QFileSystemModel>
 #include <QFontMetrics>
-#include <fstream>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTimer>
+#include <memory>
 
 #include "../../platform/mnemonic.h"
 #include "../../platform/qt/convert.h"
-#include "../../storage/language_file.h"
+#include "../../platform/qt/qt_services.h"
 #include "real_windows.h"
 
 namespace {
@@ -61,15 +72,127 @@ void ExpectRoom(const Surface& surface, QSize size, double unitsPerPixel) {
   }
 }
 
+/// Words of the program itself, the same in every language: its name, its list of thanks, files, the way back from a
+/// language that nobody at the table reads.
+const QString kProgramsOwn =
+    "Orvan Begleiter Readme txt obg PDF pdf OK Private Homepage orvan begleiter example mail hi Danke Thanks to all "
+    "who "
+    "play beta testing support Sprache auswählen Select Language Enter Esc";
+
+QStringList WordsOf(QString text) {
+  static const QRegularExpression notLetters("[^\\p{L}]+");
+  return text.remove('&').split(notLetters, Qt::SkipEmptyParts);
+}
+
+/// All that a window of the toolkit says, but for the names of files and languages.
+QStringList Said(QWidget& window) {
+  QStringList said{window.windowTitle()};
+  for (QWidget* widget : window.findChildren<QWidget*>()) {
+    if (!widget->isVisibleTo(&window) && !qobject_cast<QMenu*>(widget)) continue;
+    said += {widget->toolTip(), widget->accessibleName(), widget->accessibleDescription()};
+    if (auto* label = qobject_cast<QLabel*>(widget)) said += label->text();
+    if (auto* button = qobject_cast<QAbstractButton*>(widget)) said += button->text();
+    if (auto* header = qobject_cast<QHeaderView*>(widget); header && header->model())
+      for (int i = 0; i < header->count(); ++i) said += header->model()->headerData(i, Qt::Horizontal).toString();
+    for (QAction* action : widget->actions()) {
+      said += {action->text(), action->toolTip(), action->shortcut().toString(QKeySequence::NativeText)};
+    }
+    if (auto* field = qobject_cast<QLineEdit*>(widget)) {
+      const std::unique_ptr<QMenu> menu(field->createStandardContextMenu());
+      for (QAction* action : menu->actions()) said += action->text();
+    }
+  }
+  return said;
+}
+
+/// What the model of a form says and draws.
+void AddSaid(const std::vector<Control*>& controls, QStringList& said) {
+  for (Control* control : controls) {
+    AddSaid(control->Controls(), said);
+    said += {ToQt(control->ToolTipText.Get()), ToQt(control->SpokenName.Get())};
+    const auto* picture = dynamic_cast<platform::PictureBox*>(control);
+    if (!picture) continue;
+    for (const platform::DrawingStep& step : picture->Drawing.Steps()) {
+      if (const auto* text = std::get_if<TextStep>(&step)) said += ToQt(text->Text);
+    }
+  }
+}
+
 class RoomForTexts : public tests::RealWindows {
  protected:
   void UseLanguage(const std::string& name) {
-    std::ifstream file(Services.Folder / "language.ini", std::ios::binary);
-    Window.State.language.Languages[0] = name;
-    ASSERT_EQ(storage::LoadTexts(file, Window.State.language), core::kTexts);
-    for (platform::Form* form : Window.Desktop.Forms()) {
-      if (auto* dialog = dynamic_cast<windows::Dialog*>(form)) dialog->SetCaptions();
+    Window.F8.OpenSettings();
+    Window.F8.comSelectLang.Text = name;
+    Window.F8.cmdOK.Click();
+    ASSERT_EQ(Window.State.language.Languages[0], name);
+  }
+
+  std::vector<std::string> Languages() const {
+    const auto& listed = Window.State.language.Languages;
+    return {listed.begin() + 1, listed.end()};
+  }
+
+  /// The words of the language and of the program itself, and the names of languages.
+  QSet<QString> OwnWords() const {
+    QStringList words = WordsOf(kProgramsOwn);
+    for (const std::string& text : Window.State.language.Text) words += WordsOf(ToQt(text));
+    for (const std::string& name : Languages()) words += WordsOf(ToQt(name));
+    return {words.begin(), words.end()};
+  }
+
+  void OpenAllWindows() {
+    Window.State.asked.CurrentPlayer = Window.State.asked.DataPlayer = 1;
+    Window.F3.OpenAbout();
+    Window.F4.OpenActionDialog(1);
+    Window.F5.PrepareDataDialog();
+    Window.F6.PrepareGameInfo();
+    Window.F7.PrepareDiceDialog();
+    Window.F8.OpenSettings();
+    Window.F9.ShowStanding();
+    Window.F10.OpenPrint();
+    Window.F11.ShowAttack();
+    Window.F20.OpenNewGame();
+  }
+
+  /// What the boxes of the commands say, that of a file which is no game among them.
+  QStringList SaidInBoxes() {
+    Services.Boxes.clear();
+    Services.ChosenFile = (Services.Folder / "language.ini").string();
+    for (const char* command : {"mnuFileQuit", "mnuExtraDelLastW", "mnuSpecialLHS", "mnuFileLoad"}) {
+      (*Window.F1.MenuBar)[command].Click();
     }
+    QStringList said;
+    EXPECT_EQ(Services.Boxes.size(), 4U);
+    for (const auto& box : Services.Boxes) said += {ToQt(box.Text), ToQt(box.Title)};
+    return said;
+  }
+
+  /// What a question, the file dialog in both forms and a field's menu say in the toolkit's own words.
+  static QStringList SaidByToolkit(platform::qt::QtServices& real) {
+    QStringList said{QFileSystemModel().myComputer().toString()};
+    const auto read = [&said] {
+      QTimer::singleShot(0, [&said] {
+        QWidget* box = QApplication::activeModalWidget();
+        said += Said(*box);
+        for (QPushButton* button : box->findChildren<QPushButton*>())
+          EXPECT_LE(button->sizeHint().width(), button->width()) << button->text().toStdString();
+        for (QLabel* label : box->findChildren<QLabel*>())
+          EXPECT_LE(label->sizeHint().width(), label->width()) << label->text().toStdString();
+        box->close();
+      });
+    };
+    read();
+    real.MessageBox("", "Orvan Begleiter", platform::Buttons::YesNo, platform::Icon::None);
+    for (const bool opens : {true, false}) {
+      platform::FileDialog dialog;
+      dialog.OpensFile = opens;
+      dialog.Filter = " (*.obg)|*.obg";
+      dialog.InitDir = "/";
+      dialog.DialogTitle = "Orvan Begleiter";
+      read();
+      real.ChooseFile(dialog);
+    }
+    return said;
   }
 
   /// The widest figures that a sound game can show.
@@ -89,8 +212,7 @@ class RoomForTexts : public tests::RealWindows {
 };
 
 TEST_F(RoomForTexts, EveryCaptionFitsItsControlAndEveryDrawnTextItsRoom) {
-  for (const std::string& name : Window.State.language.Languages) {
-    if (!storage::IsListed(Window.State.language, name)) continue;
+  for (const std::string& name : Languages()) {
     SCOPED_TRACE(name);
     UseLanguage(name);
     Window.F9.ShowStanding();
@@ -102,6 +224,32 @@ TEST_F(RoomForTexts, EveryCaptionFitsItsControlAndEveryDrawnTextItsRoom) {
     ExpectRoom(Window.F3.picFlash.Drawing, {321, 67}, 1);
     ExpectRoom(Window.F1.Drawing, {633, 557}, platform::kTwipsPerPixel);
   }
+}
+
+TEST_F(RoomForTexts, NoWindowOrBoxSaysAWordOfAnotherLanguage) {
+  platform::qt::QtServices real({1, 0, 0});
+  FillTheChart();
+  for (const std::string& name : Languages()) {
+    SCOPED_TRACE(name);
+    UseLanguage(name);
+    real.Speak(Services.Words);
+    for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();  // by application and window to the menus
+    OpenAllWindows();
+    QStringList said = SaidInBoxes();
+    for (platform::Form* form : Window.Desktop.Forms()) {
+      AddSaid(form->Controls(), said);
+      if (QWidget* window = Shell.WindowOf(*form)) said += Said(*window);
+    }
+    said += SaidByToolkit(real);
+    const QSet<QString> own = OwnWords();
+    for (const QString& text : said) {
+      for (const QString& word : WordsOf(text)) {
+        EXPECT_TRUE(word.size() == 1 || own.contains(word)) << word.toStdString() << " in " << text.toStdString();
+      }
+    }
+  }
+  real.Speak({"Suomi", "", {}});
+  EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel").toStdString(), "Peru") << "the toolkit's own word";
 }
 
 }  // namespace

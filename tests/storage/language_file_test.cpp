@@ -1,14 +1,11 @@
-// Language files as people write them, whole and damaged, and the one that is shipped: its form and its access keys.
+// Language files as people write them, whole and damaged. What is in the one that is shipped scripts/check-languages
+// keeps.
 #include "../../storage/language_file.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
-#include <fstream>
-#include <set>
 #include <span>
 #include <sstream>
-
-#include "../folders.h"
 
 namespace tests {
 namespace {
@@ -64,38 +61,6 @@ TEST(LanguageFileTest, FindsBlocksAndTheirTexts) {
       {"line without end", mark + std::string(1'100'000, 'x') + "\r\n" + wanted,
        ": -1 texts, old to old, old old old"}};
   for (const auto& [what, bytes, found] : cases) EXPECT_EQ(Read(bytes), found) << what;
-}
-
-std::ifstream Shipped() { return std::ifstream(RunFolder() / "language.ini", std::ios::binary); }
-
-TEST(LanguageIniTest, EachBlockHasAllTexts) {
-  auto file = Shipped();
-  std::vector<int> blocks;  // lines of each
-  for (std::string line; std::getline(file, line);) {
-    if (line == "#LANGUAGE\r") blocks.push_back(0);
-    if (!blocks.empty()) ++blocks.back();
-  }
-  EXPECT_THAT(blocks, testing::AllOf(testing::SizeIs(12), testing::Each(2 + core::text::PlayersAfterNumber)));
-}
-
-TEST(LanguageIniTest, AccessKeysAreUniqueWithinEachMenu) {
-  const std::vector<std::size_t> menus[] = {
-      {1, 8, 13}, {2, 3, 4, 5, 6, 7}, {9, 10, 11, 111, 12, 118}, {9, 10, 11, 112, 12, 118}, {14, 15}};
-  core::Language language;
-  auto list = Shipped();
-  for (int block = storage::ListLanguages(list, language); block >= 1; --block) {
-    auto file = Shipped();
-    language.Languages[0] = language.Languages[static_cast<std::size_t>(block)];
-    ASSERT_EQ(storage::LoadTexts(file, language), 118);
-    for (const auto& menu : menus) {
-      std::set<int> keys;
-      for (const std::size_t number : menu) {
-        const std::string text = language.Text[number] + "&";
-        const auto key = text.find('&') + 1;
-        EXPECT_TRUE(key < text.size() && keys.insert(std::toupper(text[key])).second) << language.Languages[0] + text;
-      }
-    }
-  }
 }
 
 }  // namespace

@@ -12,7 +12,8 @@ namespace {
 TEST(CodePageTest, CharactersHaveTheBytesOfWindows1252AndAllBytesSurvive) {
   const std::tuple<const char*, std::string, std::string> cases[] = {
       {"€ Š ž Ÿ „“ ß", "\x80 \x8A \x9E \x9F \x84\x93 \xDF", "€ Š ž Ÿ „“ ß"},
-      {"Győr → 😀", "Gy?r ? ?", "Gyr  "},
+      {"Győr → 😀", "Gy?r ? ?", "Gyor  "},
+      {"Łukasz e\u0301ń\u1EA5", "?ukasz e???", "Lukasz ena"},
       {"Anna\r\nB", "Anna\r\nB", "AnnaB"},
       {"\xE2\x82", "??", ""},
       {"\xC3(x", "?(x", "(x"}};
@@ -20,6 +21,9 @@ TEST(CodePageTest, CharactersHaveTheBytesOfWindows1252AndAllBytesSurvive) {
     EXPECT_EQ(storage::ToCodePage(text), bytes);
     EXPECT_EQ(storage::Storable(text), storable);
   }
+  std::string refused;
+  storage::Storable("Ян Łю", &refused);
+  EXPECT_EQ(refused, "Я");
   for (int code = -1; code <= 256; ++code) {
     const std::string byte(code >= 0 && code <= 255 ? 1 : 0, static_cast<char>(code));
     EXPECT_EQ(storage::ToCodePage(storage::CharacterOf(code)), byte) << code;
