@@ -7,7 +7,7 @@
 
 namespace core {
 
-/// One second passes: both clocks grow by 1 unless they stand. A clock at 32767 stays there.
+/// One second passes: both clocks grow by 1 unless they are stopped. A clock at 32767 stays there.
 void Tick(Game& game);
 
 /// A count of seconds as "mm:ss", from an hour on as "h:mm:ss"; a negative count, which only a file can bring, as

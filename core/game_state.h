@@ -16,7 +16,9 @@
 namespace core {
 
 inline constexpr int kSeats = 6;  ///< seats 1 to 6
+inline constexpr int kFewestPlayers = 2;
 inline constexpr int kDefaultPlayers = 4;
+inline constexpr int kDieFaces = 6;   ///< of the black and the red die
 inline constexpr int kLowestSum = 2;  ///< of two dice
 inline constexpr int kHighestSum = 12;
 inline constexpr int kEventFaces = 4;

@@ -79,7 +79,7 @@ std::optional<std::int16_t> WholeNumberIn(std::string_view text) {
   const auto end = std::from_chars(digits.data(), digits.data() + digits.size(), plain);
   if (end.ec == std::errc() && end.ptr == digits.data() + digits.size()) return plain;
   const auto value = NumberIn(text);
-  if (!value || std::abs(*value) > 40000) return std::nullopt;
+  if (!value) return std::nullopt;
   const double whole = RoundHalfEven(*value);
   using Limits = std::numeric_limits<std::int16_t>;
   return whole >= Limits::min() && whole <= Limits::max() ? std::optional(static_cast<std::int16_t>(whole))

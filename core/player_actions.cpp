@@ -86,7 +86,7 @@ std::optional<Refusal> ApplyPlayerAction(Game& game, const Asked& asked) {
 }
 
 bool ActionOffered(std::int16_t gameType, int actionCode) {
-  if (gameType == kBaseGame) return actionCode < kPoliticsMetropolis || actionCode > kLoseCity;
+  if (gameType == kBaseGame) return actionCode < kPoliticsMetropolis;
   return gameType != kFirstExpansion || actionCode != kLargestArmy;
 }
 

@@ -33,12 +33,12 @@ struct Refusal {
 };
 
 /// Carries out `ActionCode` on the player of seat `CurrentPlayer`, in any kind of game. A refusal changes nothing; nor
-/// does an unknown code or seat, which is no refusal. The limits are met exactly: who stands above them is not held
-/// back. Points are not computed.
+/// does an unknown code or seat, which is no refusal. A limit refuses at exactly its number: a player above it, as a
+/// file can bring one, is not refused. Points are not computed.
 std::optional<Refusal> ApplyPlayerAction(Game& game, const Asked& asked);
 
-/// Whether a digit key gives this action in a kind of game: the base game lacks all of the expansion, the expansion
-/// lacks the army, a kind that only a file can bring lacks nothing.
+/// Whether a kind of game has this action, 1 to 10: the base game lacks all of the expansion, the expansion lacks the
+/// army, a kind that only a file can bring lacks nothing.
 bool ActionOffered(std::int16_t gameType, int actionCode);
 
 /// Nobody holds the longest road any more, which no action can say.

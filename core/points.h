@@ -35,8 +35,9 @@ void ClampPoints(Figures& figures);
 /// Sets `LeaderFlag` for every seat that nobody has more points than; seats that do not play take part.
 void FindLeaders(Figures& figures);
 
-/// The first leading seat (1 to 6) that has the points to win, none while the user does not want to be told. Reads the
-/// points and leaders as they stand and remembers nothing: as long as the condition holds it answers the same.
+/// The first leading seat (1 to 6) that has the points to win, none while the user does not want to know. Uses the
+/// points and leaders without working them out anew and remembers nothing: as long as the condition holds it answers
+/// the same.
 std::optional<int> WinningSeat(const State& state);
 
 }  // namespace core

@@ -50,7 +50,7 @@ std::int16_t Roll(const RandomSource& random, int sides) { return static_cast<st
 
 std::int16_t RollEventDie(const RandomSource& random, EventDieOf command) {
   if (command == EventDieOf::Mouse) return Roll(random, kEventFaces);
-  return std::min<std::int16_t>(Roll(random, 6), kShipFace);
+  return std::min<std::int16_t>(Roll(random, kDieFaces), kShipFace);
 }
 
 }  // namespace
@@ -118,8 +118,8 @@ void UndoLastRoll(State& state, Screen& screen) {
 }
 
 void AutoRoll(State& state, Screen& screen, const RandomSource& random, EventDieOf command) {
-  state.entry.Die1 = Roll(random, 6);
-  state.entry.Die2 = Roll(random, 6);
+  state.entry.Die1 = Roll(random, kDieFaces);
+  state.entry.Die2 = Roll(random, kDieFaces);
   state.entry.EventDie = RollEventDie(random, command);
   RecordRoll(state, screen);
 }

@@ -20,7 +20,7 @@ struct RankedPlayer {
 };
 
 /// The first `NumPlayers` places (at most six, none for a number below 1) of all six seats, most points first; among
-/// equals the lower seat stands first. Reads `PlayerPoints` as they stand.
+/// equals the lower seat comes first. Uses `PlayerPoints` without working them out anew.
 std::vector<RankedPlayer> RankPlayers(const State& state);
 
 /// What a symbol stands for; its number is that of the picture.

@@ -43,7 +43,6 @@ constexpr auto kStatusPictures = Repeat<4>({4650, 210, 720, 720}, 0, 780);
 
 constexpr int kFewestWinPoints = 2;
 constexpr int kMostWinPoints = 99;
-constexpr int kFewestPlayers = 2;
 
 /// Of a read-only field, which always holds a number.
 std::int16_t NumberIn(const platform::TextBox& field) { return core::WholeNumberIn(field.Text.Get()).value_or(0); }
@@ -94,7 +93,7 @@ F20::F20(const windows::Context& context)
       picGameStatus(this, "picGameStatus", kStatusPictures) {
   Caption = "Neues Spiel erstellen";
   MakeNumberField(txtneuSPBed, std::to_string(core::KindOf(core::kBaseGame)->WinPoints));
-  MakeNumberField(txtNOP, "4");
+  MakeNumberField(txtNOP, std::to_string(core::kDefaultPlayers));
   cmdA(0).Caption = cmdB(0).Caption = "-";
   cmdA(1).Caption = cmdB(1).Caption = "+";
   for (int i = picGameStatus.First(); i <= picGameStatus.Last(); ++i) picGameStatus(i).Opaque = false;
@@ -143,7 +142,7 @@ void F20::OpenNewGame() {
   for (int i = 0; i < core::kSeats; ++i) {
     txtSpielername(i).Text = state().game.Players[i + 1].Name;
   }
-  UpdatePlayerFields(std::clamp<int>(state().game.NumPlayers, kFewestPlayers, core::kSeats));
+  UpdatePlayerFields(std::clamp<int>(state().game.NumPlayers, core::kFewestPlayers, core::kSeats));
   Open();
 }
 
@@ -177,7 +176,7 @@ void F20::F20_cmdA_Click(int index) {
   txtneuSPBed.Text = std::to_string(Stepped(txtneuSPBed, index, kFewestWinPoints, kMostWinPoints));
 }
 
-void F20::F20_cmdB_Click(int index) { UpdatePlayerFields(Stepped(txtNOP, index, kFewestPlayers, core::kSeats)); }
+void F20::F20_cmdB_Click(int index) { UpdatePlayerFields(Stepped(txtNOP, index, core::kFewestPlayers, core::kSeats)); }
 
 void F20::F20_cmdStart_Click() {
   core::NewGame chosen;

@@ -103,7 +103,7 @@ void F4::OfferActions() {
   }
 }
 
-/// Carries `ActionCode` out, or tells why it is refused.
+/// Carries `ActionCode` out, or says why it is refused.
 void F4::Apply() {
   const auto refusal = core::ApplyPlayerAction(state().game, state().asked);
   if (!refusal) return;

@@ -23,7 +23,7 @@ constexpr int kClientHeight = 4110;
 constexpr int kRows = 10;
 constexpr int kPitch = 360;
 
-// The name's row stands apart from the others.
+// The row of the name is apart from the others.
 constexpr auto kLabels = [] {
   auto places = Repeat<kRows>({540, 210, 2385, 255}, 0, kPitch);
   places[0].Top = 150;
@@ -158,7 +158,8 @@ void F5::Step(int row, int by) {
   ShowValue(row);
 }
 
-/// The name and numbers are taken as they stand, however they came; what is no number may be on its way to one.
+/// Name and numbers are taken at once, whether typed, pasted or composed. A text that is no number changes nothing:
+/// more may follow.
 void F5::F5_txtData_Change(int row) {
   const Row& about = kTable[row];
   const std::string& text = txtData(row).Text.Get();

@@ -57,7 +57,7 @@ F7::F7(const windows::Context& context)
   cmdOK.Click = [this] { F7_cmdOK_Click(); };
   KeyUp = [this](int keyCode, platform::Modifiers) { F7_Form_KeyUp(keyCode); };
   Close = [this] { F7_cmdNoOK_Click(); };
-  for (int i = 0; i < 6; ++i) {
+  for (int i = 0; i < core::kDieFaces; ++i) {
     picSW(i).MouseUp = [this, i](platform::MouseButton) { F7_picSW_MouseUp(i); };
     picRW(i).MouseUp = [this, i](platform::MouseButton) { F7_picRW_MouseUp(i); };
     picSW(i).Border = picRW(i).Border = 1;
@@ -77,7 +77,7 @@ F7::F7(const windows::Context& context)
 }
 
 void F7::SetPictures() {
-  for (int i = 0; i < 6; ++i) {
+  for (int i = 0; i < core::kDieFaces; ++i) {
     picRW(i).Image = RedDie(i + 1);
     picSW(i).Image = BlackDie(i + 1);
   }
@@ -101,7 +101,7 @@ void F7::SetCaptions() {
   Caption = state().Text(text::EnterRoll);
   cmdNoOK.Caption = state().Text(text::Cancel);
   cmdOK.Caption = state().Text(text::Ok);
-  for (int i = 0; i < 6; ++i) {
+  for (int i = 0; i < core::kDieFaces; ++i) {
     picSW(i).SpokenName = Spoken(kBlackRow, i + 1);
     picRW(i).SpokenName = Spoken(kRedRow, i + 1);
   }

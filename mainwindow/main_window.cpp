@@ -179,7 +179,8 @@ void MainWindow::F1_tbrMenu_ButtonClick(int index) {
   if (const Command* command = buttons[static_cast<std::size_t>(index - 1)]) (this->*command->Run)();
 }
 
-/// The first two seats always play; of the others the plain key looks whether they do.
+/// A function key opens the dialog of its seat, with a modifier that of its data. The plain key of a seat where nobody
+/// plays does nothing, but for the first two.
 void MainWindow::F1_Form_KeyUp(platform::KeyCode code, platform::Modifiers with) {
   const int seat = code - platform::kKeyF1 + 1;
   const bool isSeat = core::IsSeat(seat);
@@ -189,7 +190,7 @@ void MainWindow::F1_Form_KeyUp(platform::KeyCode code, platform::Modifiers with)
   }
   if (isSeat) {
     State.asked.CurrentPlayer = static_cast<std::int16_t>(seat);
-    if (seat > 2 && !State.game.Players[seat].Active) return;
+    if (seat > core::kFewestPlayers && !State.game.Players[seat].Active) return;
     F4.OpenActionDialog(seat);
   }
   if (const int die = core::DieOfKey(code)) F7.OpenDiceDialogByKey(die);

@@ -23,7 +23,7 @@ namespace platform {
 class Desktop;
 class Form;
 
-/// Shows a form. It is told of every change in the model and decides nothing.
+/// Shows a form. It hears of every change in the model and decides nothing.
 class FormView {
  public:
   virtual ~FormView() = default;

@@ -29,7 +29,7 @@ class KeyTracker {
   Verdict Press(KeyCode code, Time now, bool markedAsRepeat);
   /// A key comes up. `Waits`: ask `Expired` after kPatience whether it has come up for good.
   Verdict Release(KeyCode code, Time now, bool markedAsRepeat);
-  /// Whether the release that waits since `since` still stands: true once, unless a press has taken it back.
+  /// Whether the release that waits since `since` counts: true once, unless a press has taken it back.
   bool Expired(KeyCode code, Time since);
   void Forget() { keys_.clear(); }
 

@@ -12,8 +12,8 @@
 namespace storage {
 namespace {
 
-// The order of the lines stands once, for the writer and the reader. `Lines` has an operation for each kind of line,
-// which is false where the file cannot be followed any further; nothing behind it is looked at then.
+// The order of the lines is written down once, for the writer and the reader. `Lines` has an operation for each kind of
+// line, which is false where the file cannot be followed any further; nothing behind it is looked at then.
 
 constexpr std::string_view kNewestVersion = "OBGV31";
 constexpr std::string_view kVersionWithoutClock = "OBGV30";

@@ -1,4 +1,4 @@
-// Where files stand. A program that was not installed has everything beside it. An installed one has its own files
+// Where files are. A program that was not installed has everything beside it. An installed one has its own files
 // where the installation puts them and writes nothing there; what its user sets or adds lies in the user's folders.
 #pragma once
 

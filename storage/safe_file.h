@@ -27,13 +27,13 @@ struct [[nodiscard]] WriteOutcome {
 };
 
 /// Writes a new file beside the old one and puts it in its place once all bytes are safe on the disk; the old file's
-/// rights are kept, a link is followed. Success is told only when all of this is done. After a failure the old file is
+/// rights are kept, a link is followed. Success means that all of this is done. After a failure the old file is
 /// whole and nothing else is left, with one exception: where only the folder could not be synced at the very end, the
 /// new file is in place.
 WriteOutcome WriteWhole(const std::filesystem::path& file, std::string_view bytes);
 
-/// Whether WriteWhole may put a file there, as far as can be told without writing. A disk with a fault forbids nothing:
-/// the write will tell.
+/// Whether WriteWhole may put a file there, as far as can be known without writing. A disk with a fault forbids
+/// nothing: only the write shows it.
 bool CanWriteWhole(const std::filesystem::path& file);
 
 /// The file where a link, or a chain of them, leads; the path itself if it is no link. Nothing for a circle of links.

@@ -144,8 +144,8 @@ std::string SettingsText(const core::State& state) {
 }
 
 WriteOutcome WriteSettings(const std::filesystem::path& file, const core::State& state) {
-  std::error_code toldByTheWrite;
-  std::filesystem::create_directories(file.parent_path(), toldByTheWrite);
+  std::error_code ignored;  // without the folder the write fails and says why
+  std::filesystem::create_directories(file.parent_path(), ignored);
   return WriteWhole(file, SettingsText(state));
 }
 

@@ -15,7 +15,7 @@ namespace storage {
 std::string SettingsText(const core::State& state);
 
 /// Takes over what the file says, over what holds already. False where the reading ended before the file did, or within
-/// an entry; all that was read before stands.
+/// an entry; all that was read before stays.
 bool ReadSettings(std::istream& file, core::State& state);
 
 /// Writes the file, and makes its folder if there is none.

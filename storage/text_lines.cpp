@@ -53,7 +53,7 @@ std::size_t LineReader::LengthOfLine() {
   return length;
 }
 
-/// Reads another piece behind what has not been told yet; false at the end of the file.
+/// Reads another piece behind what has not been handed out yet; false at the end of the file.
 bool LineReader::ReadAhead() {
   ahead_.erase(0, begin_);
   begin_ = 0;

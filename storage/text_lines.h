@@ -44,7 +44,7 @@ class LineReader {
   std::streambuf& file_;
   LineFeeds lineFeeds_;
   std::string ahead_;      ///< read already
-  std::size_t begin_ = 0;  ///< of what is not told yet in it
+  std::size_t begin_ = 0;  ///< of what has not been handed out yet
   bool ended_ = false;
   std::size_t bytesRead_ = 0;
 };

@@ -1,5 +1,5 @@
 // What the new-game dialog and the game info have in common: the frame with title and info line, and the four pictures
-// that tell of what kind a game is.
+// that show the kind of game.
 #pragma once
 
 #include "../core/game_state.h"

@@ -269,12 +269,15 @@ class Program:
         self.dialog()
         self.keys(key)
 
-    def give_file(self, command, path):
+    def name_file(self, command, path):
         """The command opens the file dialog, which takes a whole path."""
         self.keys(command)
         self.dialog()
         self.write(str(path))
         self.keys("Return")
+
+    def give_file(self, command, path):
+        self.name_file(command, path)
         self.wait_for_main()
 
     def save(self, path):

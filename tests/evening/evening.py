@@ -203,7 +203,7 @@ def a_start_without_a_language_file_is_refused(program):
 
 
 def a_disk_that_fails(program):
-    """A save leaves no half of a file, and the quit tells that the settings are as before."""
+    """Save and quit tell it; there is no half of a file, and the settings are as before."""
     program.start()
     settings, before = program.settings.read_bytes(), sorted(program.folder.iterdir())
     tracer = program.screen.start("strace", "-f", "-p", str(program.process.pid), "-o", "/dev/null",
@@ -211,7 +211,8 @@ def a_disk_that_fails(program):
     if "attached" not in (said := tracer.stderr.readline()):
         print(f"SKIPPED: strace may not look at the program here: {said}")
         return
-    program.give_file("ctrl+s", program.folder / "friday.obg")
+    program.name_file("ctrl+s", program.folder / "friday.obg")
+    program.answer("Return", dialog=TITLE)
     program.roll("4", "3")
     program.keys("ctrl+q")
     program.dialog(QUIT)
