@@ -6,6 +6,7 @@
 #include <fstream>
 #include <string>
 
+#include "../core/texts.h"
 #include "folders.h"
 
 namespace tests {
@@ -21,7 +22,9 @@ inline std::string Numbered(int text) {
 inline std::filesystem::path MakeNumberedProgram(const std::filesystem::path& folder) {
   std::ofstream file(folder / "language.ini", std::ios::binary);
   file << "#LANGUAGE\r\n" << kNumbers << "\r\n";
-  for (int text = 1; text <= 118; ++text) file << Numbered(text) << "\r\n";
+  for (int text = 1; text <= core::text::PlayersAfterNumber; ++text) {
+    file << (text == core::text::LanguageCode ? "en" : Numbered(text)) << "\r\n";
+  }
   std::filesystem::create_directory_symlink(RunFolder() / "img", folder / "img");
   return folder;
 }

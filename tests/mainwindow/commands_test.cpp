@@ -5,7 +5,6 @@
 namespace tests {
 namespace {
 
-using platform::Answer;
 using platform::FunctionKey;
 using platform::MouseButton;
 
@@ -51,38 +50,12 @@ TEST_F(CommandsTest, MenuShortcutAndToolBarDoTheSame) {
   EXPECT_EQ(Happened(), "F1 ");
 }
 
-TEST_F(CommandsTest, UndoWantsAYes) {
-  Type("34\r");
-  services.Answers = {Answer::No, Answer::Yes};
-  for (const int left : {1, 0}) {
-    Choose("mnuExtraDelLastW");
-    EXPECT_EQ(Rolls(), left);
-  }
-  EXPECT_EQ(services.Boxes.back().Buttons, platform::Buttons::YesNo);
-  EXPECT_EQ(Numbers(window.F1.picWurfel), "09 04 19") << "the dice go on showing the roll";
-}
-
-TEST_F(CommandsTest, TheClockStopsAndGoesOn) {
-  for (const bool runs : {true, false}) {
-    Press(FunctionKey(7));
-    window.F1.timSpielzeit.Elapsed();
-    EXPECT_TRUE(game.ClockRunning == runs && services.ScreenAwake == runs && game.Clock[0] == 1);
-    EXPECT_EQ(Caption("mnuExtraClock"), runs ? "&T111" : "&T112");
-  }
-}
-
 TEST_F(CommandsTest, ATallFrameLeavesTheClocksInTheWindow) {
   for (const auto& [frame, y] : {std::pair(600, "7955"), {2000, "8105"}}) {
     window.F1.FrameHeight = frame;
     window.F1.timSpielzeit.Elapsed();
     EXPECT_THAT(Drawn(window.F1.Drawing).back(), testing::HasSubstr(std::string(",") + y + " 'PAUSE'"));
   }
-}
-
-TEST_F(CommandsTest, TheLongestRoadIsTakenFromItsHolder) {
-  game.Players[2].LongestRoad = game.Players[2].LargestArmy = true;
-  Choose("mnuSpecialLHS");
-  EXPECT_TRUE(!game.Players[2].LongestRoad && figures.PlayerPoints[2] == 4);
 }
 
 TEST_F(CommandsTest, KeysWithAndWithoutModifiers) {
@@ -114,28 +87,6 @@ TEST_F(CommandsTest, KeysWithAndWithoutModifiers) {
     EXPECT_EQ(window.F7.Visible, entry.Die1 > 0) << key;
     LeaveAll();
   }
-}
-
-TEST_F(CommandsTest, MouseOnDiceAndPanelsAndTheCloseBox) {
-  mainwindow::F1& F1 = window.F1;
-  Click(F1.picWurfel(1), MouseButton::Middle);
-  Click(F1.picWurfel(2), MouseButton::Right);  // hidden in the base game
-  EXPECT_TRUE(!window.F7.Visible && Rolls() == 0);
-  PlayExpansion();
-  services.RandomNumbers = {0.5, 0.9, 0.7, 0.5, 0.9, 0.7};
-  Click(F1.picWurfel(2), MouseButton::Right);
-  EXPECT_EQ(game.DiceLog[1], (core::TRoll{4, 6, 3}));
-  EXPECT_EQ(Numbers(F1.picWurfel), "10 06 15");
-  Press(FunctionKey(9));
-  EXPECT_EQ(game.DiceLog[2], (core::TRoll{4, 6, 4}));
-  Click(F1.picSP(3), MouseButton::Middle);
-  EXPECT_EQ(asked.CurrentPlayer, 4);
-  Click(window.F4.cmdNix);
-  Click(F1.picSP(2), MouseButton::Right);
-  EXPECT_EQ(asked.DataPlayer, 3);
-  LeaveAll();
-  F1.PressCloseBox();
-  EXPECT_TRUE(services.QuitStatus == 0 && services.Boxes.empty()) << "it ends at once without a question";
 }
 
 TEST_F(CommandsTest, EveryDialogLocksAndEveryWayOutUnlocks) {

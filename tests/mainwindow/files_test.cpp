@@ -10,9 +10,7 @@ namespace {
 
 using mainwindow::MainWindow;
 using mainwindow::Started;
-using platform::Buttons;
 using std::filesystem::path;
-using Box = ScriptedServices::Box;
 
 struct FilesTest : MainWindowTest {
   FilesTest() { services.ChosenFile = File; }
@@ -53,50 +51,6 @@ TEST_F(FilesTest, ALoadBringsTheThemeOfItsGameUnlessTheUserChoosesIt) {
   }
 }
 
-TEST_F(FilesTest, DialogsAskForTheFileAndWhatIsNoGameLeavesTheGame) {
-  const std::string games = "T109 (*.obg)|*.obg";
-  for (const auto& [command, title, filter] :
-       {std::tuple("mnuFileSaveAs", "T4", games), {"mnuFileLoad", "T3", games + "|T110 (*.*)|*.*"}}) {
-    Choose(command);
-    const platform::FileDialog shown = services.FileDialogs.back();
-    EXPECT_EQ(shown.DialogTitle + shown.Filter + shown.InitDir, title + filter + Folder.string());
-  }
-  EXPECT_EQ(services.FileDialogs.back().FileName, File) << "the name chosen last";
-  game.Players[1].Name = "Anna";
-  for (const auto& [bytes, text, title] : {std::tuple("obgv31\r\n", "T102", "T103"), {"OBGV21\r\n", "T104", "T105"}}) {
-    Put(File, bytes);
-    Choose("mnuFileLoad");
-    EXPECT_EQ(services.Boxes.back(), (Box{text, title, Buttons::Ok, platform::Icon::Critical}));
-    EXPECT_EQ(game.Players[1].Name, "Anna");
-  }
-}
-
-TEST_F(FilesTest, ASaveThatFailsLeavesTheGameAndNoFile) {
-  services.ChosenFile = Folder / "gone/evening.obg";
-  Choose("mnuFileSaveAs");
-  EXPECT_FALSE(exists(Folder / "gone"));
-  Press(platform::FunctionKey(9));
-  EXPECT_EQ(Rolls(), 1);
-}
-
-TEST_F(FilesTest, QuitAsksAndStoresTheSettingsAndTellsWhereItCannot) {
-  game.Players[3].Name = "Çelik";
-  Choose("mnuFileQuit");
-  EXPECT_EQ(services.Boxes.back(), (Box{"T101", "T7", Buttons::YesNo, platform::Icon::None}));
-  EXPECT_EQ(services.QuitStatus, -1);
-  services.Answers = {platform::Answer::Yes};
-  Choose("mnuFileQuit");
-  EXPECT_TRUE(services.QuitStatus == 0 && services.Boxes.size() == 2);
-  services.WhileVisible = [](platform::Form&) { FAIL() << "asked for a language again"; };
-  EXPECT_EQ(Loaded()->State.game.Players[3].Name, "Çelik");
-  remove(Folder / "orvanbeg.ini");
-  create_directory(Folder / "orvanbeg.ini");
-  Put(Folder / "config", "no folder either");
-  services.Answers = {platform::Answer::Yes};
-  Choose("mnuFileQuit");
-  EXPECT_THAT(services.Boxes.back().Text, testing::HasSubstr(Folder / "config/orvanbeg/orvanbeg.ini"));
-}
-
 TEST_F(FilesTest, WhatIsNoFileIsLeftAloneInThePlaceOfAny) {
   const std::pair<const char*, std::function<void(const path&)>> kinds[] = {
       {"folder", [](const path& at) { create_directory(at); }},
@@ -118,6 +72,13 @@ TEST_F(FilesTest, WhatIsNoFileIsLeftAloneInThePlaceOfAny) {
     rename(Folder / "kept", Folder / "language.ini");
   }
   alarm(0);
+}
+
+TEST_F(FilesTest, OfALongTextTheBeginningIsShownWithAMark) {
+  const std::string line(40000, 'x');
+  Put(Folder / "tastatur.txt", "tw\xF6\n" + line + "\n" + line);
+  Choose("mnuHelpKeys");
+  EXPECT_EQ(window.F2.txtInfo.Text.Get(), "\r\ntwö\r\n" + line + "\r\n[…]");
 }
 
 }  // namespace

@@ -69,7 +69,7 @@ class Pictures : public MainWindowTest {
   static void Expect(const std::string& name, const std::string& lines) {
     const std::filesystem::path path = PicturesFolder() / (name + ".txt");
     if (std::getenv("ORVANBEG_WRITE_PICTURES")) Put(path, lines);
-    EXPECT_EQ(lines, Bytes(path)) << path;
+    EXPECT_EQ(lines, Bytes(path)) << path << ": if it is meant, ORVANBEG_WRITE_PICTURES=1 writes it anew";
   }
 };
 

@@ -1,0 +1,184 @@
+// Stories: what a user does and what comes of it, line by line in stories/*.txt. A line that begins with ">" is a step;
+// the lines behind it are what it has changed: windows that opened or closed, the lock of the main window, boxes, and
+// each control, line of the game file and line of the settings that is another now. Drawings are left to the pictures
+// and to their words. ORVANBEG_WRITE_PICTURES=1 in the environment writes the outcomes anew.
+#include <cstdlib>
+#include <map>
+#include <regex>
+#include <sstream>
+
+#include "../../storage/game_file.h"
+#include "../../storage/settings_file.h"
+#include "../main_window_fixture.h"
+#include "described.h"
+
+namespace tests {
+namespace {
+
+using State = std::map<std::string, std::string>;  ///< what there is to see, by its name
+
+const std::map<std::string, platform::KeyCode> kKeyNames{
+    {"Esc", platform::kKeyEscape},          {"Enter", platform::kKeyEnter},        {"Tab", platform::kKeyTab},
+    {"Space", platform::kKeySpace},         {"Right", platform::kKeyRight},        {"Down", platform::kKeyDown},
+    {"Backspace", platform::kKeyBackspace}, {"Pad1", platform::kKeyNumberPad0 + 1}};
+
+class Stories : public MainWindowTest, public testing::WithParamInterface<std::string> {
+ protected:
+  void Act(const std::string& verb, std::istringstream& words) {
+    std::string name, rest;
+    words >> name;
+    std::getline(words >> std::ws, rest);
+    if (verb == "key") return PressNamed(name);
+    if (verb == "keys") return Type(name);
+    if (verb == "menu") return Choose(name.c_str());
+    if (verb == "tool") return window.F1.ClickTool(window.F1.tbrMenu, std::stoi(name));
+    if (verb == "tick") return FormOf(name).Timers.front()->Elapsed();
+    if (verb == "close") return FormOf(name).PressCloseBox();
+    if (verb == "click") {
+      const auto button = rest == "right"    ? platform::MouseButton::Right
+                          : rest == "middle" ? platform::MouseButton::Middle
+                                             : platform::MouseButton::Left;
+      for (int times = rest.starts_with("*") ? std::stoi(rest.substr(1)) : 1; times > 0; --times) {
+        Click(ControlOf(name), button);
+      }
+      return;
+    }
+    if (verb == "focus") return FormOf(name).SetFocus(ControlOf(name));
+    if (verb == "write") return FormOf(name).Type(ControlOf(name), rest);
+    if (verb == "pick") return FormOf(name).Pick(dynamic_cast<platform::ComboBox&>(ControlOf(name)), std::stoi(rest));
+    if (verb == "file") return Put(Folder / name, rest);
+    if (verb == "folder") return static_cast<void>(create_directory(Folder / name));
+    if (verb == "lose") return static_cast<void>(remove(Folder / name));
+    if (verb == "answer")
+      return services.Answers.push_back(name == "yes" ? platform::Answer::Yes : platform::Answer::No);
+    if (verb == "random") return services.RandomNumbers.push_back(std::stod(name));
+    if (verb == "choose")
+      return static_cast<void>(services.ChosenFile = name == "nothing" ? "" : (Folder / name).string());
+    FAIL() << "no step: " << verb;
+  }
+  /// "Shift+F1", "Ctrl+N", "Enter", "7".
+  void PressNamed(std::string name) {
+    platform::Modifiers with;
+    for (const auto& [word, held] : {std::pair("Shift+", &with.Shift), {"Ctrl+", &with.Control}, {"Alt+", &with.Alt}}) {
+      *held = name.starts_with(word);
+      if (*held) name.erase(0, std::string(word).size());
+    }
+    const bool isFunction = name[0] == 'F' && name.size() > 1;
+    const auto named = kKeyNames.find(name);
+    Press(isFunction                 ? platform::FunctionKey(std::stoi(name.substr(1)))
+          : named == kKeyNames.end() ? name[0]
+                                     : named->second,
+          with);
+  }
+  platform::Form& FormOf(const std::string& name) {
+    const auto isIt = [&name](const platform::Form* form) { return form->Name == name.substr(0, name.find('.')); };
+    return **std::ranges::find_if(window.Desktop.Forms(), isIt);
+  }
+  platform::Control& ControlOf(const std::string& name) {
+    platform::Control* found = Find(FormOf(name), name.substr(name.find('.') + 1));
+    if (!found) throw std::out_of_range("no control " + name);
+    return *found;
+  }
+  static platform::Control* Find(const platform::Container& container, const std::string& name) {
+    for (platform::Control* control : container.Controls()) {
+      if (control->Name == name) return control;
+      const auto* inner = dynamic_cast<platform::Container*>(control);
+      if (platform::Control* deeper = inner ? Find(*inner, name) : nullptr) return deeper;
+    }
+    return nullptr;
+  }
+
+  /// What stories leave to the pictures: places, grounds, borders, tooltips; the temporary folder has no name.
+  std::string Plain(const std::string& line) const {
+    static const std::regex kLook(
+        " -?[0-9.]+,-?[0-9.]+ [0-9]+x[0-9]+| on [0-9A-F]{6}| tip \"[^\"]*\"| border [0-9]| clear");
+    std::string plain = std::regex_replace(line, kLook, "");
+    for (auto at = plain.find(Folder); at != std::string::npos; at = plain.find(Folder))
+      plain.erase(at, Folder.string().size());
+    return plain;
+  }
+  /// Each line that is no drawing, under the name of its owner and its own first word.
+  static void Add(State& state, const std::string& owner, const std::string& lines) {
+    std::istringstream all(lines);
+    for (std::string line; std::getline(all, line);) {
+      if (!line.starts_with("    ")) state[owner + "." + line.substr(0, line.find(' '))] = line;
+    }
+  }
+  static std::string WithNumbers(const std::string& bytes, const std::string& mark) {
+    std::string lines;
+    std::istringstream all(bytes);
+    int number = 0;
+    for (std::string line; std::getline(all, line, '\r'); all.ignore())
+      lines += mark + std::to_string(++number) + " " + line + "\n";
+    return lines;
+  }
+  State Now() {
+    State state;
+    for (const platform::Form* form : window.Desktop.Forms()) {
+      state[form->Name] = form->Visible ? form->Name + " is open" : form->Name + " is gone";
+      state[form->Name + " caption"] = form->Name + " \"" + form->Caption.Get() + "\"";
+      Add(state, form->Name, DescribedControls(*form, form == &window.F1 ? nullptr : form->Focus()));
+    }
+    state["theme"] = window.F1.Image.Get().Name;
+    state["clock"] = Caption("mnuExtraClock");
+    state["lock"] = window.F1.Enabled ? "the main window is free" : "the main window is locked";
+    state["quit"] = services.QuitStatus == -1 ? "" : "the program ends";
+    state["awake"] = services.ScreenAwake ? "the screen stays on" : "the screen may go dark";
+    for (std::size_t i = 0; i < services.Boxes.size(); ++i) {
+      const ScriptedServices::Box& box = services.Boxes[i];
+      state["box " + std::to_string(i)] = "box" + Quoted(" ", box.Text) + Quoted(" ", box.Title) +
+                                          Flag(" Yes/No", box.Buttons == platform::Buttons::YesNo);
+    }
+    for (std::size_t i = 0; i < services.FileDialogs.size(); ++i) {
+      state["dialog " + std::to_string(i)] =
+          "file dialog \"" + services.FileDialogs[i].DialogTitle + "\" " + services.FileDialogs[i].Filter;
+    }
+    Add(state, "game", WithNumbers(storage::GameFileText(window.State), "game:"));
+    Add(state, "settings", WithNumbers(storage::SettingsText(window.State), "settings:"));
+    return state;
+  }
+  /// What is new, in the order of the names.
+  std::string Changes(const State& before, const State& after) const {
+    std::string lines;
+    for (const auto& [name, line] : after) {
+      const auto was = before.find(name);
+      if (was != before.end() && was->second == line) continue;
+      lines += Plain(line) + "\n";
+    }
+    return lines;
+  }
+};
+
+TEST_P(Stories, GoAsTheyAreTold) {
+  const std::filesystem::path path = PicturesFolder() / "stories" / GetParam();
+  std::istringstream story(Bytes(path));
+  std::string told;
+  State before = Now();
+  for (std::string line; std::getline(story, line);) {
+    if (line.starts_with("#") || line.empty()) told += line + "\n";
+    if (!line.starts_with(">")) continue;
+    std::istringstream words(line.substr(1));
+    std::string verb;
+    words >> verb;
+    Act(verb, words);
+    State after = Now();
+    told += line + "\n" + Changes(before, after);
+    before = std::move(after);
+  }
+  if (std::getenv("ORVANBEG_WRITE_PICTURES")) Put(path, told);
+  EXPECT_EQ(told, Bytes(path)) << path << ": if it is meant, ORVANBEG_WRITE_PICTURES=1 writes it anew";
+}
+
+std::vector<std::string> All() {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(PicturesFolder() / "stories"))
+    names.push_back(entry.path().filename());
+  std::ranges::sort(names);
+  return names;
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Stories, testing::ValuesIn(All()),
+                         [](const auto& story) { return story.param.substr(0, story.param.find('.')); });
+
+}  // namespace
+}  // namespace tests
