@@ -44,7 +44,7 @@ std::ifstream F2::OpenInLanguage(const std::filesystem::path& file) {
 void F2::ShowFile(const std::string& name) {
   txtInfo.Text = std::string();
   Caption = txtInfo.SpokenName = "Orvan Begleiter Readme";
-  std::ifstream file = OpenInLanguage(context_.Places().ProgramFiles() / name);
+  std::ifstream file = OpenInLanguage(context_.places.ProgramFiles() / name);
   if (!file.is_open()) return;
   storage::LineReader reader(file, storage::LineFeeds::EndLines);
   std::string text;

@@ -1,6 +1,7 @@
 #include "f5_player_data.h"
 
 #include <algorithm>
+#include <variant>
 
 #include "../core/new_game.h"
 #include "../core/numbers.h"
@@ -44,27 +45,60 @@ enum class Shown { Always, InBaseGame, InExpansion };
 using NumberOf = std::int16_t TPlayer::*;
 using FlagOf = bool TPlayer::*;
 
-/// What a row is about: a number with its bounds for the buttons and what stands for no number, or a flag.
+// What a row can be about: how it is shown, what typed text and the buttons make of it.
+struct Name {
+  static std::string TextOf(const TPlayer& player, const core::State&) { return player.Name; }
+  static void Take(TPlayer& player, const std::string& typed) { player.Name = typed; }
+  static void Step(TPlayer&, int) {}
+};
+
+struct Number {
+  NumberOf Field;
+  int Highest;            // for the buttons; a typed number may be any
+  const char* Otherwise;  // what stands in for text that is no number
+
+  std::string TextOf(const TPlayer& player, const core::State&) const { return std::to_string(player.*Field); }
+  /// What is no number may be on its way to one.
+  void Take(TPlayer& player, const std::string& typed) const {
+    player.*Field = core::WholeNumberIn(typed).value_or(player.*Field);
+  }
+  /// One more, up to the bound, or one fewer, down to 0.
+  void Step(TPlayer& player, int by) const {
+    const int stepped = player.*Field + by;
+    player.*Field = core::Saturate16(by < 0 ? std::max(stepped, 0) : std::min(stepped, Highest));
+  }
+};
+
+struct Flag {
+  FlagOf Field;
+
+  std::string TextOf(const TPlayer& player, const core::State& state) const {
+    return state.Text(player.*Field ? text::Yes : text::No);
+  }
+  static void Take(TPlayer&, const std::string&) {}
+  /// Turned over, whichever button it was.
+  void Step(TPlayer& player, int) const { player.*Field = !(player.*Field); }
+};
+
 struct Row {
-  NumberOf Number = nullptr;
-  FlagOf Flag = nullptr;
-  int Highest = 0;
-  const char* Otherwise = "";
-  int Symbol = 0;
+  std::variant<Name, Number, Flag> About;
+  core::Symbol Symbol = {};
   Shown When = Shown::Always;
 };
 
 constexpr Row kTable[kRows] = {
-    {},
-    {.Number = &TPlayer::Settlements, .Highest = 5, .Otherwise = "2", .Symbol = core::kSettlementSymbol},
-    {.Number = &TPlayer::Cities, .Highest = 4, .Otherwise = "0", .Symbol = core::kCitySymbol},
-    {.Flag = &TPlayer::LongestRoad, .Symbol = core::kLongestRoadSymbol},
-    {.Flag = &TPlayer::LargestArmy, .Symbol = core::kLargestArmySymbol, .When = Shown::InBaseGame},
-    {.Flag = &TPlayer::PoliticsMetropolis, .Symbol = core::kPoliticsSymbol, .When = Shown::InExpansion},
-    {.Flag = &TPlayer::TradeMetropolis, .Symbol = core::kTradeSymbol, .When = Shown::InExpansion},
-    {.Flag = &TPlayer::ScienceMetropolis, .Symbol = core::kScienceSymbol, .When = Shown::InExpansion},
-    {.Number = &TPlayer::BonusPoints, .Highest = 99, .Otherwise = "0", .Symbol = core::kBonusPointSymbol},
-    {.Flag = &TPlayer::Merchant, .Symbol = core::kMerchantSymbol, .When = Shown::InExpansion},
+    {.About = Name{}},
+    {.About = Number{.Field = &TPlayer::Settlements, .Highest = 5, .Otherwise = "2"},
+     .Symbol = core::kSettlementSymbol},
+    {.About = Number{.Field = &TPlayer::Cities, .Highest = 4, .Otherwise = "0"}, .Symbol = core::kCitySymbol},
+    {.About = Flag{.Field = &TPlayer::LongestRoad}, .Symbol = core::kLongestRoadSymbol},
+    {.About = Flag{.Field = &TPlayer::LargestArmy}, .Symbol = core::kLargestArmySymbol, .When = Shown::InBaseGame},
+    {.About = Flag{.Field = &TPlayer::PoliticsMetropolis}, .Symbol = core::kPoliticsSymbol, .When = Shown::InExpansion},
+    {.About = Flag{.Field = &TPlayer::TradeMetropolis}, .Symbol = core::kTradeSymbol, .When = Shown::InExpansion},
+    {.About = Flag{.Field = &TPlayer::ScienceMetropolis}, .Symbol = core::kScienceSymbol, .When = Shown::InExpansion},
+    {.About = Number{.Field = &TPlayer::BonusPoints, .Highest = 99, .Otherwise = "0"},
+     .Symbol = core::kBonusPointSymbol},
+    {.About = Flag{.Field = &TPlayer::Merchant}, .Symbol = core::kMerchantSymbol, .When = Shown::InExpansion},
 };
 
 }  // namespace
@@ -135,46 +169,27 @@ void F5::ShowRows() {
 }
 
 void F5::ShowValue(int row) {
-  const Row& about = kTable[row];
-  if (about.Number) {
-    txtData(row).Text = std::to_string(Player().*about.Number);
-  } else if (about.Flag) {
-    txtData(row).Text = state().Text(Player().*about.Flag ? text::Yes : text::No);
-  } else {
-    txtData(row).Text = Player().Name;
-  }
+  const auto textOf = [this](const auto& about) { return about.TextOf(Player(), state()); };
+  txtData(row).Text = std::visit(textOf, kTable[row].About);
 }
 
-/// One more, up to the bound, or one fewer, down to 0; a flag turns over, whichever button it was.
 void F5::Step(int row, int by) {
-  const Row& about = kTable[row];
-  if (about.Number) {
-    const int stepped = Player().*about.Number + by;
-    const int bounded = by < 0 ? std::max(stepped, 0) : std::min(stepped, about.Highest);
-    Player().*about.Number = core::Saturate16(bounded);
-  } else {
-    Player().*about.Flag = !(Player().*about.Flag);
-  }
+  const auto step = [this, by](const auto& about) { about.Step(Player(), by); };
+  std::visit(step, kTable[row].About);
   ShowValue(row);
 }
 
-/// Name and numbers are taken at once, whether typed, pasted or composed. A text that is no number changes nothing:
-/// more may follow.
+/// Name and numbers are taken at once, whether typed, pasted or composed.
 void F5::F5_txtData_Change(int row) {
-  const Row& about = kTable[row];
-  const std::string& text = txtData(row).Text.Get();
-  if (about.Number) {
-    Player().*about.Number = core::WholeNumberIn(text).value_or(Player().*about.Number);
-  } else if (!about.Flag) {
-    Player().Name = text;
-  }
+  const auto take = [&](const auto& about) { about.Take(Player(), txtData(row).Text.Get()); };
+  std::visit(take, kTable[row].About);
 }
 
-/// Any key: a flag turns over, and what is still no number gives way.
+/// Any key: a flag turns over, and text that is still no number is replaced.
 void F5::F5_txtData_KeyUp(int row) {
-  const Row& about = kTable[row];
-  if (about.Flag) return Step(row, 1);
-  if (about.Number && !core::WholeNumberIn(txtData(row).Text.Get())) txtData(row).Text = about.Otherwise;
+  if (std::holds_alternative<Flag>(kTable[row].About)) return Step(row, 1);
+  const auto* number = std::get_if<Number>(&kTable[row].About);
+  if (number && !core::WholeNumberIn(txtData(row).Text.Get())) txtData(row).Text = number->Otherwise;
 }
 
 }  // namespace dialogs

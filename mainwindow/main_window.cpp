@@ -23,7 +23,8 @@ using platform::MouseButton;
 
 MainWindow::MainWindow(platform::Services& services)
     : F1(Desktop, MakeMenu(), ToolPictures()),
-      context_{State, *this, services, Desktop, lock_},
+      places_(services.ProgramFolder(), services.ConfigurationFolder(), services.DocumentsFolder()),
+      context_{State, *this, services, Desktop, lock_, places_},
       F2(context_),
       F3(context_),
       F4(context_),
@@ -72,7 +73,7 @@ Started MainWindow::Load() {
 
 void MainWindow::SetWorkingFolder() {
   std::error_code ignored;  // where it cannot be entered, the program's files cannot be read either
-  std::filesystem::current_path(context_.Places().ProgramFiles(), ignored);
+  std::filesystem::current_path(context_.places.ProgramFiles(), ignored);
 }
 
 void MainWindow::CentreDialogs() {

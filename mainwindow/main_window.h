@@ -41,6 +41,7 @@ class MainWindow : public core::Screen, private storage::GameFileEvents {
 
  private:
   windows::Lock lock_{F1};  // with the context made before the dialogs, which are made with it
+  const storage::Places places_;
   windows::Context context_;
 
  public:

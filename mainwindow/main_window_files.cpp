@@ -31,7 +31,7 @@ const std::string kNoLanguages =
 /// Shows the file dialog; false if no file was chosen.
 bool MainWindow::ChooseFile(int titleText, std::string filter, bool opens) {
   cmdLS_.Filter = std::move(filter);
-  cmdLS_.InitDir = context_.Places().FirstFolder().string();
+  cmdLS_.InitDir = context_.places.FirstFolder().string();
   cmdLS_.DialogTitle = platform::WithoutMnemonic(State.Text(titleText));
   cmdLS_.OpensFile = opens;
   cmdLS_.Objection = nullptr;
@@ -77,7 +77,7 @@ bool MainWindow::ChooseBackground() {
 
 /// Where the file cannot be read to its end, the theme stays the first one.
 void MainWindow::LoadSettings() {
-  std::ifstream file = storage::OpenRegularFile(context_.Places().SettingsToRead());
+  std::ifstream file = storage::OpenRegularFile(context_.places.SettingsToRead());
   const bool whole = file.is_open() && storage::ReadSettings(file, State);
   F8.TickClocksAndContrast();
   if (whole) LoadThemeImages(State.settings.AutoHG.IsOff() ? 1 : State.settings.HG, State.settings, services_, F1);
@@ -88,7 +88,7 @@ void MainWindow::SaveSettings() {
   const std::string title = platform::WithoutMnemonic(State.Text(text::MenuQuit));
   const auto answer = services_.MessageBox(State.Text(text::ReallyQuit), title, platform::Buttons::YesNo);
   if (answer == platform::Answer::No) return;
-  const auto path = context_.Places().SettingsFile();
+  const auto path = context_.places.SettingsFile();
   const auto written = storage::WriteSettings(path, State);
   if (!written) services_.MessageBox(windows::TextOfFailure(State, text::SettingsNotSaved, path.string(), written));
   services_.Quit(0);
@@ -112,7 +112,7 @@ bool MainWindow::LoadLanguage() {
 /// False if the file holds no language: the user is told, at the start in two languages, and the languages known so far
 /// stay.
 bool MainWindow::ReadLanguageList() {
-  const auto path = context_.Places().LanguageFile();
+  const auto path = context_.places.LanguageFile();
   std::ifstream file = storage::OpenRegularFile(path);
   core::Language found = State.language;
   if (storage::ListLanguages(file, found) == 0) {
@@ -127,7 +127,7 @@ bool MainWindow::ReadLanguageList() {
 
 /// Reads what is there, and tells the user of a language that lacks some texts.
 void MainWindow::ReadTexts() {
-  const auto path = context_.Places().LanguageFile();
+  const auto path = context_.places.LanguageFile();
   std::ifstream file = storage::OpenRegularFile(path);
   const int count = storage::LoadTexts(file, State.language);
   SpeakLanguage();

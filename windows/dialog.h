@@ -36,11 +36,7 @@ struct Context {
   platform::Services& services;
   platform::Desktop& desktop;
   Lock& lock;
-
-  /// Where files are on this machine.
-  storage::Places Places() const {
-    return {services.ProgramFolder(), services.ConfigurationFolder(), services.DocumentsFolder()};
-  }
+  const storage::Places& places;  ///< where files are on this machine
 };
 
 class Dialog : public platform::Form {

@@ -30,6 +30,8 @@ inline unsigned FromEnvironment(const char* name, unsigned otherwise) {
 
 /// Answers by chance; the clock ticks while a box is open; now and then a picture is missing.
 struct ChanceServices : ScriptedServices {
+  using ScriptedServices::ScriptedServices;
+
   std::mt19937 Generator, Pictures;  // of their own, so that another way of drawing is not another evening
   std::function<void()> WhileABoxIsOpen;
 
@@ -52,7 +54,6 @@ class RandomEvening : public TemporaryFolder, public testing::WithParamInterface
   RandomEvening() {
     chance.Generator.seed(GetParam());
     std::filesystem::copy(RunFolder(), Folder);
-    chance.Folder = Folder;
     chance.WhileABoxIsOpen = [this] { window.F1.timSpielzeit.Elapsed(); };
   }
 
@@ -211,7 +212,7 @@ class RandomEvening : public TemporaryFolder, public testing::WithParamInterface
     return "";
   }
 
-  ChanceServices chance;
+  ChanceServices chance{Folder};
   mainwindow::MainWindow window{chance};
   core::Game& game = window.State.game;
   std::set<std::string> seen;
