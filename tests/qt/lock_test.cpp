@@ -1,7 +1,6 @@
 // While the main window is locked nothing reaches it: no shortcut, click, menu or close box. It does not look greyed,
 // and the keyboard is where the next key counts.
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QSignalSpy>
 
 #include "real_windows.h"
@@ -24,19 +23,6 @@ TEST_F(Lock, KeepsKeysAndMouseOutAndDoesNotLookGreyed) {
   main.close();
   EXPECT_TRUE(main.isVisible() && main.isEnabled() && WidgetOf(Window.F1.tbrMenu).isEnabled());
   EXPECT_EQ(Window.State.figures.TotalRolls, 0);
-}
-
-TEST_F(Lock, AClickThatTookTheKeyboardGivesItBack) {
-  platform::qt::FormWindow& main = WindowOf(Window.F1);
-  Window.F7.PrepareDiceDialog();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&WindowOf(Window.F7)));
-  Click(Window.F1.picWurfel(0));
-  main.activateWindow();  // as a compositor does, after the click
-  EXPECT_TRUE(QTest::qWaitForWindowActive(&WindowOf(Window.F7)));
-  QMessageBox box(&main);
-  box.open();
-  main.activateWindow();
-  EXPECT_TRUE(QTest::qWaitForWindowActive(&box));
 }
 
 TEST_F(Lock, WhatTakesTheDialogsPlaceGetsTheKeyboardDirectly) {
