@@ -29,6 +29,7 @@ constexpr platform::Colour kWindowGround{24, 36, 48};
 constexpr platform::Colour kPanelGround{32, 48, 62};
 
 constexpr int kClockTick = 1000;  // milliseconds
+constexpr int kCopyTick = 500;
 
 }  // namespace
 
@@ -39,7 +40,9 @@ F1::F1(platform::Desktop& desktop, std::unique_ptr<platform::Menu> menu, std::ve
       picWurfel(this, "picWurfel", kDicePlaces),
       picW(this, "picW", kChartPlace),
       picInfoLine(this, "picInfoLine", kInfoLinePlace),
-      timSpielzeit(*this, "timSpielzeit", kClockTick) {
+      timSpielzeit(*this, "timSpielzeit", kClockTick),
+      timCopy(*this, "timCopy", kCopyTick) {
+  timCopy.Enabled = false;
   Caption = "Orvan Begleiter";
   KeyPreview = true;
   MenuBar = std::move(menu);

@@ -18,6 +18,7 @@ class F1 : public platform::Form {
   platform::PictureBox picW;                               ///< the dice chart
   platform::PictureBox picInfoLine;                        ///< the last six rolls
   platform::Timer timSpielzeit;
+  platform::Timer timCopy;  ///< looks for changes while a dialog is open, for the copy that the evening keeps
 
   /// The dice before any roll.
   void ShowBlankDice();

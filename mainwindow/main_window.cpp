@@ -23,7 +23,8 @@ using platform::MouseButton;
 
 MainWindow::MainWindow(platform::Services& services)
     : F1(Desktop, MakeMenu(), ToolPictures()),
-      places_(services.ProgramFolder(), services.ConfigurationFolder(), services.DocumentsFolder()),
+      places_(services.ProgramFolder(), services.ConfigurationFolder(), services.DocumentsFolder(),
+              services.StateFolder()),
       context_{State, *this, services, Desktop, lock_, places_},
       F2(context_),
       F3(context_),
@@ -39,6 +40,7 @@ MainWindow::MainWindow(platform::Services& services)
       services_(services) {
   WireInput();
   F1.timSpielzeit.Tick = [this] { F1_timSpielzeit_Timer(); };
+  F1.timCopy.Tick = [this] { keeper_.Look(); };
   F20.OnStart = [this] { ShowNewGame(); };
   F3.ShowReadme = [this] { F2.ShowFile("readme.txt"); };
   F8.LoadThemeImages = [this](int theme) { LoadThemeImages(theme, State.settings, services_, F1); };
@@ -67,6 +69,7 @@ Started MainWindow::Load() {
   core::CalcPoints(State, *this);
   ShowPlayerPanels();
   DrawDiceStats();
+  keeper_.Start(context_.places.Copies());
   F1.Visible = true;
   return Started::Yes;
 }
@@ -106,6 +109,7 @@ void MainWindow::DrawDiceStats() {
   const std::string separator = services_.DecimalSeparator();
   DrawDiceChart(State, separator, F1.picW.Drawing);
   F1.picW.SpokenName = SpokenChart(State);
+  keeper_.Look();
   F1.picInfoLine.Visible = State.settings.ShowLast6;
   if (!State.settings.ShowLast6) return;
   DrawLastSix(State, F1.picInfoLine.Drawing);
@@ -117,6 +121,7 @@ void MainWindow::DrawPlayerPanels() {
   core::ClampPoints(State.figures);
   core::FindLeaders(State.figures);
   PaintPanels(State, services_, F1);
+  keeper_.Look();
   F4.OfferActions();
   if (!core::WinningSeat(State)) return;
   State.asked.GameWon = true;
@@ -140,6 +145,7 @@ void MainWindow::ShowRolledDice() {
 
 /// Dice, theme, clocks, panels and chart are those of the game that the dialog has started.
 void MainWindow::ShowNewGame() {
+  keeper_.BeginGame();
   F1.ShowBlankDice();
   ShowEventDie();
   if (State.settings.AutoHG.IsOn()) F8.ShowTheme(core::ThemeOf(State.game));
@@ -155,7 +161,10 @@ void MainWindow::ShowEventDie() {
   if (State.game.GameType == core::kFirstExpansion) F1.picWurfel(2).Visible = true;
 }
 
+/// Nearly all that changes a game is drawn at once; only what is typed into a dialog is not, and has to be looked for.
 void MainWindow::F1_timSpielzeit_Timer() {
+  keeper_.Look();
+  F1.timCopy.Enabled = lock_.IsTaken();
   core::Tick(State.game);
   DrawClockStrip(State, F1);
 }

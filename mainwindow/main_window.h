@@ -18,6 +18,7 @@
 #include "../platform/desktop.h"
 #include "../platform/services.h"
 #include "../printing/f10_print.h"
+#include "../storage/evening_copies.h"
 #include "../storage/game_file.h"
 #include "commands.h"
 #include "f1.h"
@@ -109,6 +110,7 @@ class MainWindow : public core::Screen, private storage::GameFileEvents {
   void LoadSettings();
   void SaveSettings();
   void LoadGame();
+  void ShowLoadedGame();
   bool ChooseFile(int titleText, std::string filter, bool opens);
 
   // storage::GameFileEvents
@@ -119,6 +121,7 @@ class MainWindow : public core::Screen, private storage::GameFileEvents {
 
   platform::Services& services_;
   platform::FileDialog cmdLS_;  ///< keeps the name chosen last, in either direction
+  storage::EveningKeeper keeper_{State};
 };
 
 }  // namespace mainwindow

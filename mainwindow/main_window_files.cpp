@@ -1,5 +1,5 @@
-// The files of the main window: games, settings and languages. A failure while loading a game ends the command without
-// a word; what was done so far stays.
+// The files of the main window: games, settings and languages. A failure is told; what was taken over of a game until
+// then stays and is shown.
 #include <algorithm>
 #include <fstream>
 
@@ -36,13 +36,15 @@ bool MainWindow::ChooseFile(int titleText, std::string filter, bool opens) {
   cmdLS_.OpensFile = opens;
   cmdLS_.Objection = nullptr;
   if (!opens) cmdLS_.Objection = [this](const std::string& path) { return windows::ObjectionToSaving(State, path); };
+  cmdLS_.SideFolder = opens ? context_.places.Copies() : std::filesystem::path();
+  cmdLS_.SideName = State.Text(text::CopiesFolder);
   return services_.ChooseFile(cmdLS_) && !cmdLS_.FileName.empty();
 }
 
 void MainWindow::F1_mnuFileSaveAs_Click() {
   const std::string filter = State.Text(text::GameFiles) + kGameFiles;
   if (!ChooseFile(text::MenuSaveAs, filter, false)) return;
-  const auto written = storage::WriteWhole(cmdLS_.FileName, storage::GameFileText(State));
+  const auto written = storage::WriteGame(cmdLS_.FileName, storage::GameFileText(State), context_.places.Copies());
   if (!written) services_.MessageBox(windows::TextOfFailure(State, text::GameNotSaved, cmdLS_.FileName, written));
 }
 
@@ -52,8 +54,27 @@ void MainWindow::F1_mnuFileLoad_Click() {
 }
 
 void MainWindow::LoadGame() {
-  std::ifstream file = storage::OpenRegularFile(cmdLS_.FileName);
-  if (!file.is_open() || storage::ReadGame(file, State, *this) != storage::GameFileOutcome::Whole) return;
+  const std::filesystem::path chosen = cmdLS_.FileName;
+  // A copy goes in time; what is made of it is saved among the user's own files.
+  std::error_code unknown;
+  const storage::Places& places = context_.places;
+  if (std::filesystem::equivalent(chosen.parent_path(), places.Copies(), unknown)) {
+    cmdLS_.FileName = (places.FirstFolder() / chosen.filename()).string();
+  }
+  keeper_.Look();
+  std::ifstream file = storage::OpenRegularFile(chosen);
+  auto outcome = storage::GameFileOutcome::Stopped;
+  if (file.is_open()) {
+    outcome = storage::ReadGame(file, State, *this);
+    if (outcome != storage::GameFileOutcome::NotAGame) ShowLoadedGame();
+  }
+  if (outcome != storage::GameFileOutcome::Stopped) return;
+  services_.MessageBox(State.Text(text::GameNotRead) + "\n" + chosen.string());
+}
+
+void MainWindow::ShowLoadedGame() {
+  keeper_.BeginGame();
+  ShowEventDie();
   ShowPlayerPanels();
   core::CalcPoints(State, *this);
   DrawDiceStats();

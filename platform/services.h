@@ -36,7 +36,9 @@ struct FileDialog {
   std::string DefaultExt;  ///< added to a name typed without extension; empty: the name stays as typed
   /// Why a file cannot be saved there, in words for the user; empty: it can. The dialog stays open below them.
   std::function<std::string(const std::string& path)> Objection;
-  std::string FileName;  ///< with its path; empty as long as none was chosen
+  std::string FileName;              ///< with its path; empty as long as none was chosen
+  std::filesystem::path SideFolder;  ///< a place of its own at the side, where there is such a folder
+  std::string SideName;              ///< what it is called there
 };
 
 /// A drawing for paper. Fonts have their size in points, pictures 96 pixels to an inch.
@@ -97,6 +99,9 @@ class Services {
 
   /// The folder for the user's own documents; the home folder where there is none.
   virtual std::filesystem::path DocumentsFolder() = 0;
+
+  /// The folder for what the user's programs keep by themselves.
+  virtual std::filesystem::path StateFolder() = 0;
 
   /// The system's decimal separator, "." or "," as a rule.
   virtual std::string DecimalSeparator() = 0;

@@ -11,7 +11,7 @@ using std::filesystem::path;
 
 constexpr const char* kLanguageFile = "language.ini";
 constexpr const char* kSettingsFile = "orvanbeg.ini";
-constexpr const char* kOwnFolder = "orvanbeg";  // below the configuration folder
+constexpr const char* kOwnFolder = "orvanbeg";  // below the folders of the user's programs
 
 bool Exists(const path& file) {
   std::error_code unknown;
@@ -34,11 +34,12 @@ bool IsInstalled(const path& program) {
 
 }  // namespace
 
-Places::Places(path program, const path& configuration, path documents)
+Places::Places(path program, const path& configuration, path documents, const path& state)
     : installed_(IsInstalled(program)),
       files_(installed_ ? InstalledFiles(program) : std::move(program)),
       own_(configuration / kOwnFolder),
-      documents_(std::move(documents)) {}
+      documents_(std::move(documents)),
+      copies_(state.empty() ? path() : state / kOwnFolder) {}
 
 path Places::LanguageFile() const {
   const path own = own_ / kLanguageFile;

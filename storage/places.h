@@ -8,8 +8,10 @@ namespace storage {
 
 class Places {
  public:
-  /// The folders of the executable, of the user's settings of all programs and of the user's documents.
-  Places(std::filesystem::path program, const std::filesystem::path& configuration, std::filesystem::path documents);
+  /// The folders of the executable, of the user's settings of all programs, of the user's documents, and of what the
+  /// user's programs keep by themselves.
+  Places(std::filesystem::path program, const std::filesystem::path& configuration, std::filesystem::path documents,
+         const std::filesystem::path& state = {});
 
   /// The folder of the files that come with the program.
   const std::filesystem::path& ProgramFiles() const { return files_; }
@@ -26,6 +28,9 @@ class Places {
   /// as the user has none.
   std::filesystem::path SettingsToRead() const;
 
+  /// Where evenings keep themselves; empty where there is no folder for what programs keep.
+  const std::filesystem::path& Copies() const { return copies_; }
+
   /// Where a file dialog begins as long as no file has been chosen in it.
   const std::filesystem::path& FirstFolder() const { return installed_ ? documents_ : files_; }
 
@@ -34,6 +39,7 @@ class Places {
   std::filesystem::path files_;
   std::filesystem::path own_;  ///< the user's folder for this program
   std::filesystem::path documents_;
+  std::filesystem::path copies_;
 };
 
 }  // namespace storage

@@ -37,6 +37,7 @@ class ScriptedServices : public platform::Services {
   std::string ChosenFile;                 ///< empty: the file dialog is cancelled
   std::set<std::string> MissingPictures;  ///< by name
   std::filesystem::path Folder;           ///< the program's
+  std::filesystem::path State;            ///< empty: no copies are kept
   std::string Separator = ",";
   bool ScreenAwake = false;
   platform::Words Words;  ///< what the toolkit says
@@ -74,6 +75,7 @@ class ScriptedServices : public platform::Services {
   std::filesystem::path ProgramFolder() override { return Folder; }
   std::filesystem::path ConfigurationFolder() override { return Folder / "config"; }
   std::filesystem::path DocumentsFolder() override { return Folder / "documents"; }
+  std::filesystem::path StateFolder() override { return State; }
   std::string Today() override { return "22.11.2026"; }
   std::string DecimalSeparator() override { return Separator; }
   void KeepScreenAwake(bool awake, const std::string&) override { ScreenAwake = awake; }

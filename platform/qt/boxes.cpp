@@ -6,10 +6,14 @@
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QListView>
 #include <QMessageBox>
 #include <QPointer>
 #include <QScopeGuard>
+#include <QSplitter>
+#include <QStyledItemDelegate>
 #include <QTreeView>
+#include <QUrl>
 #include <algorithm>
 #include <functional>
 
@@ -72,12 +76,52 @@ void FitColumns(const QFileDialog& chooser) {
   files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
 }
 
+/// Shows one of the places at the side under a name that its folder does not bear.
+class PlaceNames : public QStyledItemDelegate {
+ public:
+  PlaceNames(QObject* parent, QUrl place, QString name)
+      : QStyledItemDelegate(parent), place_(std::move(place)), name_(std::move(name)) {}
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (index.data(kUrlRole).toUrl() == place_) option->text = name_;
+    const QVariant enabled = index.data(kEnabledRole);
+    if (enabled.isValid() && !enabled.toBool()) option->state &= ~QStyle::State_Enabled;
+  }
+
+ private:
+  // Of the toolkit's own model of places.
+  static constexpr int kUrlRole = Qt::UserRole + 1;
+  static constexpr int kEnabledRole = Qt::UserRole + 2;
+
+  QUrl place_;
+  QString name_;
+};
+
+/// The column of places is as wide as its longest name.
+void AddPlace(QFileDialog& chooser, const QString& folder, const QString& name) {
+  auto* places = chooser.findChild<QListView*>("sidebar");
+  auto* columns = chooser.findChild<QSplitter*>("splitter");
+  if (!places || !columns || folder.isEmpty() || !QFileInfo(folder).isDir()) return;
+  const QUrl place = QUrl::fromLocalFile(folder);
+  QList<QUrl> urls = chooser.sidebarUrls();
+  urls.removeAll(place);
+  chooser.setSidebarUrls(urls << place);
+  places->setItemDelegate(new PlaceNames(places, place, name));
+  QAbstractItemModel* model = places->model();
+  model->setData(model->index(model->rowCount() - 1, 0), name, Qt::AccessibleTextRole);
+  const int room = places->sizeHintForColumn(0) + 2 * places->frameWidth();
+  columns->setSizes({room, chooser.width() - room});
+}
+
 /// The toolkit's own dialog on every desktop: only the extension that was asked for is ever added to a name. It stays
 /// open below an objection to the name.
 class Chooser : public QFileDialog {
  public:
   Chooser(Services& services, const FileDialog& dialog)
       : QFileDialog(WindowBelow(), ToQt(dialog.DialogTitle), ToQt(dialog.InitDir)),
+        places_(sidebarUrls()),
         services_(services),
         objection_(dialog.Objection) {
     setOption(QFileDialog::DontUseNativeDialog);
@@ -86,9 +130,12 @@ class Chooser : public QFileDialog {
     setNameFilters(NameFilters(dialog.Filter));
     setDefaultSuffix(ToQt(dialog.DefaultExt));
     FitColumns(*this);
+    AddPlace(*this, ToQt(dialog.SideFolder.string()), ToQt(dialog.SideName));
     const QString before = ToQt(dialog.FileName);
     if (!before.isEmpty() && QFileInfo(before).dir().exists()) selectFile(before);
   }
+  /// The toolkit remembers the places for all programs.
+  ~Chooser() override { setSidebarUrls(places_); }
   std::string Chosen() const { return selectedFiles().value(0).toStdString(); }
 
   void accept() override {
@@ -99,6 +146,7 @@ class Chooser : public QFileDialog {
   }
 
  private:
+  const QList<QUrl> places_;  ///< without the one of its own
   Services& services_;
   const std::function<std::string(const std::string&)> objection_;
 };

@@ -46,6 +46,12 @@ std::filesystem::path QtServices::DocumentsFolder() {
   return (QFileInfo(documents).isDir() ? documents : QDir::homePath()).toStdString();
 }
 
+/// The toolkit names this folder from 6.7 on.
+std::filesystem::path QtServices::StateFolder() {
+  const QString named = qEnvironmentVariable("XDG_STATE_HOME");
+  return (QDir::isAbsolutePath(named) ? named : QDir::homePath() + "/.local/state").toStdString();
+}
+
 /// Some languages write dates in letters or digits of their own, which no file of the program can hold.
 std::string QtServices::Today() {
   const QDate today = QDate::currentDate();

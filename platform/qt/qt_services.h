@@ -24,6 +24,7 @@ class QtServices : public Services {
   std::filesystem::path ProgramFolder() override;
   std::filesystem::path ConfigurationFolder() override;
   std::filesystem::path DocumentsFolder() override;
+  std::filesystem::path StateFolder() override;
   std::string Today() override;
   std::string DecimalSeparator() override;
   void KeepScreenAwake(bool awake, const std::string& reason) override { screenSaver_.KeepAway(awake, reason); }
