@@ -9,6 +9,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "../../storage/evening_copies.h"
 #include "temporary_folder.h"
 
 namespace {
@@ -22,6 +23,7 @@ struct System {
   int After = 0;                     // calls of it that still go well
   int Error = 0;                     // kKilled: the process ends there
   std::size_t MostBytes = SIZE_MAX;  // taken by one write
+  std::chrono::milliseconds SyncTakes{0};
 } g_system;
 
 bool Fails(const std::string& call) {
@@ -52,6 +54,7 @@ extern "C" ssize_t write(int file, const void* bytes, size_t size) {
              : Real<ssize_t(int, const void*, size_t)>("write")(file, bytes, std::min(size, g_system.MostBytes));
 }
 extern "C" int fsync(int file) {
+  std::this_thread::sleep_for(g_system.SyncTakes);
   return Fails(IsFolder(file) ? "sync folder" : "sync file") ? -1 : Real<int(int)>("fsync")(file);
 }
 extern "C" int renameat(int from, const char* name, int to, const char* newName) noexcept {
@@ -114,6 +117,48 @@ TEST_F(SafeFileTest, KilledAtAnyStepOneWholeFileIsThere) {
     waitpid(child, nullptr, 0);
     EXPECT_EQ(Bytes(File), step == std::string("sync folder") ? "new bytes" : "old") << step;
   }
+  Save("next");
+  EXPECT_THAT(Names(), ElementsAre("game.obg")) << "what the killed ones left is gone";
+}
+
+TEST_F(SafeFileTest, AFileInAFolderThatTakesNoNewOneIsWrittenInPlaceOnceItsOldBytesAreKept) {
+  const auto copies = Folder / "copies";
+  for (const bool canKeep : {false, true}) {
+    Put(File, "old bytes");
+    if (canKeep)
+      std::filesystem::remove(copies);
+    else
+      Put(copies, "no folder");
+    g_system = {{}, "rename", 0, EACCES};
+    EXPECT_EQ(storage::WriteGame(File, "new", copies).Failure, canKeep ? WriteFailure::None : WriteFailure::NotAllowed);
+    EXPECT_EQ(Bytes(File), canKeep ? "new" : "old bytes");
+  }
+  EXPECT_EQ(Bytes(copies / *Names("copies").begin()), "old bytes");
+  EXPECT_THAT(*Names("copies").begin(), testing::EndsWith(" game.obg"));
+}
+
+TEST_F(SafeFileTest, OnlyTheNewestOfEachGameIsWrittenBesideTheWindow) {
+  using namespace std::chrono_literals;
+  const auto copy = [this](std::time_t begun) { return std::make_shared<storage::GameCopy>(Folder, begun); };
+  const auto first = copy(0), second = copy(86400);
+  g_system = {{}, "sync file", 0, EIO};
+  g_system.SyncTakes = 50ms;
+  {
+    storage::CopyWriter writer;
+    writer.Put(first, "", "never seen");
+    std::this_thread::sleep_for(20ms);
+    for (int i = 0; i < 100; ++i) writer.Put(first, "", std::to_string(i)), writer.Put(second, "", "other");
+  }
+  EXPECT_EQ(std::ranges::count(g_system.Calls, "sync file"), 3) << "the first fails and holds nothing up";
+  ASSERT_EQ(Names().size(), 2U);
+  EXPECT_EQ(Bytes(Folder / *Names().begin()) + Bytes(Folder / *Names().rbegin()), "99other");
+  const auto onAHangingDisk = [&] {
+    g_system.SyncTakes = 1h;
+    const auto begun = std::chrono::steady_clock::now();
+    std::make_unique<storage::CopyWriter>()->Put(first, "", "x");
+    _exit(std::chrono::steady_clock::now() - begun < 3s ? 0 : 1);
+  };
+  EXPECT_EXIT(onAHangingDisk(), testing::ExitedWithCode(0), "");
 }
 
 TEST_F(SafeFileTest, PlacesThatCannotBeWritten) {
