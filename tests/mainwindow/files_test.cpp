@@ -57,7 +57,7 @@ TEST_F(FilesTest, WhatWasReadOfACutGameIsShownAndTheRestTold) {
   resize_file(path(File), 200);
   const auto later = Loaded();
   EXPECT_EQ(later->State.figures.PlayerPoints[2], 7);
-  EXPECT_THAT(services.Boxes.back().Text, testing::EndsWith(":\n" + File));
+  EXPECT_THAT(services.Boxes.back().Text, testing::EndsWith("\n" + File));
 }
 
 TEST_F(FilesTest, WhatChangesTheGameIsKeptAtOnceAndNothingElse) {
