@@ -37,6 +37,11 @@ def panels_and_chart(program):
     return program.screen.picture("rgb:-", program.main, "-crop", "570x400+0+50")
 
 
+def alike(colours, others):
+    """Soft edges are rounded otherwise where another part of a window is painted."""
+    return len(colours) == len(others) > 0 and max(abs(one - other) for one, other in zip(colours, others)) <= 4
+
+
 def quit_program(program, settings, *texts):
     """What it leaves is a whole settings file with these lines in it."""
     program.keys("ctrl+q")
@@ -105,7 +110,7 @@ def a_whole_evening_and_the_next(program):
 
     program.start()
     program.give_file("ctrl+f", program.folder / "friday.obg")
-    wait_for(lambda: panels_and_chart(program) == seen, "panels and chart as they were")
+    wait_for(lambda: alike(panels_and_chart(program), seen), "panels and chart as they were")
     assert program.save(program.folder / "saturday.obg")[:-2] == saved[:-2]  # but for its clock
     settings = program.settings.read_bytes()
     program.keys("alt+F4")
