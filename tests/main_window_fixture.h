@@ -16,19 +16,12 @@
 
 namespace tests {
 
-using Act = std::function<void()>;
-
-inline constexpr platform::Modifiers kShift{.Shift = true}, kCtrl{.Control = true}, kAlt{.Alt = true};
+inline constexpr platform::Modifiers kShift{.Shift = true}, kCtrl{.Control = true};
 
 class MainWindowTest : public TemporaryFolder {
  protected:
   MainWindowTest() { EXPECT_EQ(window.Load(), mainwindow::Started::Yes); }
 
-  /// Turns the running game into one of the first expansion.
-  void PlayExpansion() {
-    game.GameType = core::kFirstExpansion;
-    window.F1.picWurfel(2).Visible = true;
-  }
   /// Types keys as fast as can be: they arrive at the main window before a dialog has the keyboard.
   void Type(const std::string& keys, platform::Modifiers with = {}) {
     for (const char key : keys) Press(static_cast<unsigned char>(key), with);
@@ -46,19 +39,6 @@ class MainWindowTest : public TemporaryFolder {
       form->PressCloseBox();
       Key(*form, platform::kKeyEnter);
     }
-  }
-  int Rolls() { return core::CountTotalRolls(game); }
-  bool Locking(const platform::Form& dialog) const { return dialog.Visible && !window.F1.Enabled; }
-  bool Closed(const platform::Form& dialog) const { return !dialog.Visible && window.F1.Enabled; }
-  /// The pictures of a row of controls by their numbers in the image list, "-" for none.
-  template <typename Controls>
-  static std::string Numbers(const Controls& controls) {
-    std::string numbers;
-    for (int i = controls.First(); i <= controls.Last(); ++i) {
-      const std::string name = controls(i).Image.Get().Name;
-      numbers += (numbers.empty() ? "" : " ") + (name.empty() ? "-" : name.substr(name.find('/') + 1, 2));
-    }
-    return numbers;
   }
 
   ScriptedServices services{MakeNumberedProgram(Folder)};

@@ -1,4 +1,4 @@
-// Games and settings to files and back, through the commands; files that are none, and a save that fails.
+// What stands in the place of the program's files: what is none, and texts too long to be shown.
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -25,31 +25,6 @@ struct FilesTest : MainWindowTest {
 
   const std::string File = Folder / "evening.obg";
 };
-
-TEST_F(FilesTest, AGameComesBackWithPanelsChartAndEventDie) {
-  PlayExpansion();
-  game.Players[5] = {.Name = "Zoë", .Cities = 3, .Active = true};
-  Press(platform::FunctionKey(9));
-  Choose("mnuFileSaveAs");
-  const auto later = Loaded();
-  EXPECT_EQ(storage::GameFileText(later->State), storage::GameFileText(window.State));
-  EXPECT_TRUE(later->State.game.NumPlayers == 5 && later->State.figures.TotalRolls == 1);
-  EXPECT_TRUE(later->State.figures.LeaderFlag[5] && later->F1.picSP(4).Visible && later->F1.picWurfel(2).Visible);
-}
-
-TEST_F(FilesTest, ALoadBringsTheThemeOfItsGameUnlessTheUserChoosesIt) {
-  // The second expansion brings its own all the same. Second expansion, who chooses, theme.
-  const std::tuple<core::CheckValue, core::CheckValue, const char*> cases[] = {
-      {core::kOff, core::kOn, "img/bw_back.jpg"},
-      {core::kOff, core::kOff, "img/basis_back.jpg"},
-      {core::kOn, core::kOff, "img/flo_back.jpg"}};
-  PlayExpansion();
-  for (const auto& [flottillen, automatic, theme] : cases) {
-    game.OptFlottillen = flottillen;
-    Choose("mnuFileSaveAs");
-    EXPECT_EQ(Loaded(automatic)->F1.Image.Get().Name, theme);
-  }
-}
 
 TEST_F(FilesTest, WhatWasReadOfACutGameIsShownAndTheRestTold) {
   game.Players[2] = {.Name = "Zoë", .Settlements = 5, .LongestRoad = true, .Active = true};
@@ -125,10 +100,12 @@ TEST_F(FilesTest, WhatIsNoFileIsLeftAloneInThePlaceOfAny) {
   alarm(60);  // who opens a pipe waits for ever
   for (const auto& [kind, make] : kinds) {
     for (const char* name : {"orvanbeg.ini", "readme.txt", "evening.obg"}) remove(Folder / name), make(Folder / name);
-    const auto later = Loaded();
-    EXPECT_TRUE(later->F1.AcceptsInput()) << kind;
-    EXPECT_EQ(storage::GameFileText(later->State), storage::GameFileText(window.State)) << kind;
-    later->F3.ShowReadme();
+    MainWindow later(services);
+    later.Load();
+    later.F1.ClickMenu((*later.F1.MenuBar)["mnuFileLoad"]);
+    later.F3.ShowReadme();
+    EXPECT_TRUE(later.F1.AcceptsInput()) << kind;
+    EXPECT_EQ(storage::GameFileText(later.State), storage::GameFileText(window.State)) << kind;
     rename(Folder / "language.ini", Folder / "kept");
     make(Folder / "language.ini");
     EXPECT_EQ(MainWindow(services).Load(), Started::NoLanguage) << kind;

@@ -1,4 +1,5 @@
 // The start-up: what stands on the screen, the language and its file, the theme, and what a missing picture leaves.
+#include "../drawn.h"
 #include "../main_window_fixture.h"
 
 namespace tests {
@@ -84,6 +85,23 @@ TEST_F(StartTest, LeadersHaveAGroundOfTheirOwnOnHiddenSeatsTooAndAMissingOneLeav
   std::string grounds;
   for (const int panel : {0, 1, 2, 5}) grounds += window.F1.picSP(panel).Image.Get().Name + " ";
   EXPECT_EQ(grounds, "img/basis_s1_high.jpg img/basis_s2_high.jpg img/basis_s3.jpg img/basis_s6_high.jpg ");
+}
+
+TEST_F(StartTest, ATallFrameLeavesTheClocksInTheWindow) {
+  for (const auto& [frame, y] : {std::pair(600, "7955"), {2000, "8105"}}) {
+    window.F1.FrameHeight = frame;
+    window.F1.timSpielzeit.Elapsed();
+    EXPECT_THAT(Drawn(window.F1.Drawing).back(), testing::HasSubstr(std::string(",") + y + " 'PAUSE'"));
+  }
+}
+
+TEST_F(StartTest, KeysBringThePointsIntoTwoDigitsUnlessNobodyPlaysOnTheSeat) {
+  game.Players[3].Active = false;
+  for (const auto& [key, points] : {std::pair(3, 32767), {10, 99}}) {
+    figures.PlayerPoints[5] = 32767;
+    Press(platform::FunctionKey(key));
+    EXPECT_EQ(figures.PlayerPoints[5], points);
+  }
 }
 
 }  // namespace

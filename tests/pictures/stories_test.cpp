@@ -48,6 +48,8 @@ class Stories : public MainWindowTest, public testing::WithParamInterface<std::s
     if (verb == "pick") return FormOf(name).Pick(dynamic_cast<platform::ComboBox&>(ControlOf(name)), std::stoi(rest));
     if (verb == "file") return Put(Folder / name, rest);
     if (verb == "folder") return static_cast<void>(create_directory(Folder / name));
+    if (verb == "printers") return services.Printers.assign({name, rest});
+    if (verb == "jam") return static_cast<void>(services.PrinterFails = true);
     if (verb == "lose") return static_cast<void>(remove(Folder / name));
     if (verb == "answer")
       return services.Answers.push_back(name == "yes" ? platform::Answer::Yes : platform::Answer::No);
@@ -118,6 +120,13 @@ class Stories : public MainWindowTest, public testing::WithParamInterface<std::s
       state[form->Name] = form->Visible ? form->Name + " is open" : form->Name + " is gone";
       state[form->Name + " caption"] = form->Name + " \"" + form->Caption.Get() + "\"";
       Add(state, form->Name, DescribedControls(*form, form == &window.F1 ? nullptr : form->Focus()));
+    }
+    const auto& [printer, page] = services.Printed;
+    state["printed"] =
+        printer.empty() ? "" : "printed on " + printer + ", " + std::to_string(page.Steps().size()) + " steps";
+    for (const std::string& name : Names()) {
+      if (is_regular_file(Folder / name))
+        state["file " + name] = "file " + name + ", " + std::to_string(file_size(Folder / name)) + " bytes";
     }
     state["theme"] = window.F1.Image.Get().Name;
     state["clock"] = Caption("mnuExtraClock");
