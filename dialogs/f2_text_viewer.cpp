@@ -1,5 +1,6 @@
 #include "f2_text_viewer.h"
 
+#include "../core/texts.h"
 #include "../storage/text_lines.h"
 
 namespace dialogs {
@@ -13,7 +14,6 @@ constexpr Place kTextPlace{60, 60, 8055, 6315};
 constexpr Place kOkPlace{3420, 6420, 1395, 375};
 
 constexpr std::size_t kMostShown = 1 << 16;  // bytes; a text field is slow with more
-const std::string kMore = "[…]";             // where the file goes on
 
 }  // namespace
 
@@ -50,7 +50,7 @@ void F2::ShowFile(const std::string& name) {
   std::string text;
   for (std::string line; reader.Next(line);) {
     const bool fits = text.size() + line.size() < kMostShown;
-    text += "\r\n" + (fits ? line : kMore);
+    text += "\r\n" + (fits ? line : context_.state.Text(core::text::TextGoesOn));
     if (!fits) break;
   }
   txtInfo.Text = text;

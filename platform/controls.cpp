@@ -7,14 +7,19 @@ namespace platform {
 
 void TextBox::PropertyChanged(Aspect aspect) {
   Control::PropertyChanged(aspect);
-  if (aspect == Aspect::Text && Change) Change();
+  if (aspect != Aspect::Text) return;
+  Notice = std::string();
+  if (Change) Change();
 }
 
 void TextBox::UserType(const std::string& text) {
   if (ReadOnly) return;
-  Text = Filter ? Filter(text) : text;
+  std::string notice;
+  Text = Filter ? Filter(text, notice) : text;
   // What the filter has removed is still in the widget.
   if (Text.Get() != text) Control::PropertyChanged(Aspect::Text);
+  Notice = std::string();  // so that the same notice is given again
+  Notice = notice;
 }
 
 void CheckBox::PropertyChanged(Aspect aspect) {

@@ -55,8 +55,8 @@ class TextBox : public Control {
   std::function<void()> Change;
   /// What the field has to say of what was typed last; a view shows it beside the field for a while.
   Property<std::string> Notice{*this, Aspect::Notice};
-  /// Turns what the user has typed into what the field accepts. Unset: everything is accepted.
-  std::function<std::string(const std::string&)> Filter;
+  /// Turns what the user has typed into what the field accepts, and may give a notice. Unset: everything is accepted.
+  std::function<std::string(const std::string& typed, std::string& notice)> Filter;
 
   bool TakesFocus() const override { return true; }
   void UserType(const std::string& text) override;

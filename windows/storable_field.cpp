@@ -5,12 +5,10 @@
 namespace windows {
 
 void KeepStorable(platform::TextBox& field, const core::State& state) {
-  field.Filter = [&field, &state](const std::string& typed) {
-    if (typed == field.Text.Get()) return typed;  // the view repeats what it was given
+  field.Filter = [&state](const std::string& typed, std::string& notice) {
     std::string refused;
     std::string text = storage::Storable(typed, &refused);
-    field.Notice = std::string();
-    if (!refused.empty()) field.Notice = state.Text(core::text::CharacterRefused) + " " + refused;
+    if (!refused.empty()) notice = state.Text(core::text::CharacterRefused) + " " + refused;
     return text;
   };
 }

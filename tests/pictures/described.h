@@ -44,7 +44,7 @@ inline std::string OfItsKind(const platform::Control& control) {
   }
   if (const auto* text = dynamic_cast<const TextBox*>(&control)) {
     return Quoted(" text ", text->Text) + Aligned(text->Align) + Flag(" read-only", text->ReadOnly) +
-           Flag(" of lines", text->MultiLine);
+           Flag(" of lines", text->MultiLine) + Quoted(" notice ", text->Notice);
   }
   if (const auto* box = dynamic_cast<const CheckBox*>(&control)) {
     return Quoted(" ", box->Caption) + (box->Value == 1 ? " [x]" : " [ ]");
