@@ -11,6 +11,7 @@ using std::filesystem::path;
 
 constexpr const char* kLanguageFile = "language.ini";
 constexpr const char* kSettingsFile = "orvanbeg.ini";
+constexpr const char* kViewFile = "orvanbeg-view.ini";
 constexpr const char* kOwnFolder = "orvanbeg";  // below the folders of the user's programs
 
 bool Exists(const path& file) {
@@ -51,6 +52,8 @@ path Places::SettingsFile() const {
   const bool writtenElsewhere = !Exists(beside) && Exists(own);
   return !installed_ && !writtenElsewhere && CanWriteWhole(beside) ? beside : own;
 }
+
+path Places::ViewFile() const { return SettingsFile().replace_filename(kViewFile); }
 
 path Places::SettingsToRead() const {
   const path written = SettingsFile();

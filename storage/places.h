@@ -28,6 +28,9 @@ class Places {
   /// as the user has none.
   std::filesystem::path SettingsToRead() const;
 
+  /// The file with the size of the windows, beside the settings file.
+  std::filesystem::path ViewFile() const;
+
   /// Where evenings keep themselves; empty where there is no folder for what programs keep.
   const std::filesystem::path& Copies() const { return copies_; }
 

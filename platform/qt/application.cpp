@@ -7,6 +7,7 @@
 #include "convert.h"
 #include "form_window.h"
 #include "pictures.h"
+#include "zoom.h"
 
 namespace platform::qt {
 namespace {
@@ -38,7 +39,7 @@ void MakeDisabledTextReadable() {
 }  // namespace
 
 void SetLook() {
-  QApplication::setStyle("Fusion");
+  QApplication::setStyle(new ZoomStyle);
   MakeDisabledTextReadable();
   QApplication::setFont(ToQt(Font{}));
   QAccessible::installFactory(InterfaceOf);

@@ -9,6 +9,7 @@
 #include <QRadioButton>
 #include <QStyle>
 #include <QStyleOptionButton>
+#include <algorithm>
 
 #include "control_view.h"
 #include "convert.h"
@@ -56,13 +57,14 @@ class ButtonView : public QPushButton, public ControlView {
     QStyleOptionButton option;
     initStyleOption(&option);
     style()->drawControl(QStyle::CE_PushButtonBevel, &option, &painter, this);
-    const QSize picture = SizeOf(button_.Image);
+    const QSize picture = SizeOf(button_.Image) * Zoom();
+    const int gap = Zoomed(kPictureGap);
     const int line = fontMetrics().height();
-    const int top = (height() - picture.height() - kPictureGap - line) / 2;
+    const int top = (height() - picture.height() - gap - line) / 2;
     painter.setOpacity(isEnabled() ? 1.0 : 0.4);
     Draw(painter, button_.Image, QPointF((width() - picture.width()) / 2, top));
     painter.setOpacity(1.0);
-    const QRect below(0, top + picture.height() + kPictureGap, width(), line);
+    const QRect below(0, top + picture.height() + gap, width(), line);
     style()->drawItemText(&painter, below, Qt::AlignCenter | Qt::TextShowMnemonic, option.palette, isEnabled(), text(),
                           QPalette::ButtonText);
   }
@@ -80,7 +82,7 @@ class CheckView : public QCheckBox, public ControlView {
     });
   }
   void Update(Aspect aspect) override {
-    if (aspect == Aspect::Caption) setText(Wrapped(ToQt(box_.Caption.Get()), width() - kMarkRoom, font()));
+    if (aspect == Aspect::Caption) setText(Wrapped(ToQt(box_.Caption.Get()), width() - Zoomed(kMarkRoom), font()));
     if (aspect == Aspect::Value) setChecked(box_.Value.Get() == 1);
     ControlView::Update(aspect);
   }
@@ -100,7 +102,7 @@ class OptionView : public QRadioButton, public ControlView {
     });
   }
   void Update(Aspect aspect) override {
-    if (aspect == Aspect::Caption) setText(Wrapped(ToQt(button_.Caption.Get()), width() - kMarkRoom, font()));
+    if (aspect == Aspect::Caption) setText(Wrapped(ToQt(button_.Caption.Get()), width() - Zoomed(kMarkRoom), font()));
     if (aspect == Aspect::Value) setChecked(button_.Value);
     ControlView::Update(aspect);
   }
@@ -130,20 +132,21 @@ class FrameView : public QWidget, public ControlView {
 
  protected:
   void paintEvent(QPaintEvent*) override {
-    constexpr int kCaptionX = 8;    // pixels
-    constexpr int kCaptionAir = 3;  // on either side of the caption
-    constexpr double kRounding = 3;
+    const int captionX = Zoomed(8);
+    const int captionAir = Zoomed(3);  // on either side of the caption
+    const double rounding = Zoomed(3);
+    const double edge = std::max(1, Zoomed(1)) / 2.0;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QString caption = ToQt(frame_.Caption.Get());
     const int line = fontMetrics().height() / 2;
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.drawRoundedRect(QRectF(0.5, line + 0.5, width() - 1, height() - line - 1), kRounding, kRounding);
+    painter.setPen(QPen(palette().color(QPalette::Mid), 2 * edge));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(edge, line + edge, -edge, -edge), rounding, rounding);
     if (caption.isEmpty()) return;
-    const int room = fontMetrics().horizontalAdvance(caption) + 2 * kCaptionAir;
-    painter.fillRect(QRect(kCaptionX - kCaptionAir, 0, room, fontMetrics().height()), palette().window());
+    const int room = fontMetrics().horizontalAdvance(caption) + 2 * captionAir;
+    painter.fillRect(QRect(captionX - captionAir, 0, room, fontMetrics().height()), palette().window());
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(kCaptionX, fontMetrics().ascent(), caption);
+    painter.drawText(captionX, fontMetrics().ascent(), caption);
   }
 
  private:

@@ -20,9 +20,9 @@ std::unordered_map<std::type_index, Maker> MakersOf() {
   return {{typeid(Kinds), MakeAs<Kinds>}...};
 }
 
-constexpr Aspect kAllAspects[] = {Aspect::Place,  Aspect::Font,    Aspect::Caption, Aspect::List,
-                                  Aspect::Text,   Aspect::Value,   Aspect::Picture, Aspect::ToolTip,
-                                  Aspect::Spoken, Aspect::Enabled, Aspect::Visible};
+constexpr Aspect kScaled[] = {Aspect::Place, Aspect::Font, Aspect::Caption};
+constexpr Aspect kOthers[] = {Aspect::List,    Aspect::Text,   Aspect::Value,   Aspect::Picture,
+                              Aspect::ToolTip, Aspect::Spoken, Aspect::Enabled, Aspect::Visible};
 
 }  // namespace
 
@@ -41,7 +41,12 @@ ControlView* ControlView::Of(QWidget* widget) {
 
 void ControlView::UpdateAll() {
   widget_.setObjectName(ToQt(control_.Name));
-  for (const Aspect aspect : kAllAspects) Update(aspect);
+  Rescale();
+  for (const Aspect aspect : kOthers) Update(aspect);
+}
+
+void ControlView::Rescale() {
+  for (const Aspect aspect : kScaled) Update(aspect);
 }
 
 void ControlView::Update(Aspect aspect) {

@@ -21,6 +21,8 @@ class ControlView {
   /// Brings one aspect of the widget up to date.
   virtual void Update(Aspect aspect);
   void UpdateAll();
+  /// Brings place, type and all lengths into line with the size of windows.
+  virtual void Rescale();
   /// What a screen reader gets to know of the widget, owned by the caller; null: what the toolkit says.
   virtual QAccessibleInterface* MakeSpoken() { return nullptr; }
 

@@ -23,9 +23,11 @@ QString FamilyFor(const std::string& name) {
 
 }  // namespace
 
-QFont ToQt(const Font& font, double pixelsPerPoint) {
+QFont ToQt(const Font& font, double pixelsPerPoint, double scale) {
   QFont result(FamilyFor(font.Name));
-  result.setPixelSize(qMax(1, qRound(font.Size * pixelsPerPoint)));
+  result.setPixelSize(qMax(1, qFloor(qRound(font.Size * pixelsPerPoint) * scale)));
+  // Hinting widens small letters.
+  if (scale < 1) result.setLetterSpacing(QFont::PercentageSpacing, 96);
   result.setBold(font.Bold);
   return result;
 }

@@ -10,6 +10,7 @@
 #include "../controls.h"
 #include "../surface.h"
 #include "../units.h"
+#include "zoom.h"
 
 namespace platform::qt {
 
@@ -17,14 +18,17 @@ inline constexpr double kScreenPixelsPerPoint = 96.0 / 72.0;  // whatever resolu
 
 inline QString ToQt(const std::string& text) { return QString::fromStdString(text); }
 inline QColor ToQt(Colour colour) { return {colour.Red, colour.Green, colour.Blue}; }
+/// In pixels of the screen. Edges are rounded, not sizes, so that neighbours that touch in twips touch on the screen.
 inline QRect ToQt(const Place& place) {
-  const PixelRect rect = ToPixels(place);
-  return {rect.Left, rect.Top, rect.Width, rect.Height};
+  const auto pixel = [](int twips) { return qRound(twips * Zoom() / kTwipsPerPixel); };
+  const QPoint corner(pixel(place.Left), pixel(place.Top));
+  return {corner, QPoint(pixel(place.Left + place.Width) - 1, pixel(place.Top + place.Height) - 1)};
 }
 inline Qt::Alignment ToQt(Alignment align) {
   return align == Alignment::Centre ? Qt::AlignHCenter : align == Alignment::Right ? Qt::AlignRight : Qt::AlignLeft;
 }
-/// DejaVu Sans and Liberation Sans replace faces that are not installed.
-QFont ToQt(const Font& font, double pixelsPerPoint = kScreenPixelsPerPoint);
+/// DejaVu Sans and Liberation Sans replace faces that are not installed. The size is scaled from whole pixels at 100 in
+/// 100 and rounded down, so that a text which fits its room there fits it at any scale.
+QFont ToQt(const Font& font, double pixelsPerPoint = kScreenPixelsPerPoint, double scale = Zoom());
 
 }  // namespace platform::qt

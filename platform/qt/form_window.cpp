@@ -5,6 +5,8 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScreen>
+#include <algorithm>
+#include <utility>
 
 #include "convert.h"
 #include "key_codes.h"
@@ -21,7 +23,7 @@ Qt::WindowFlags FlagsFor(const Form& form, bool isDialog) {
 
 }  // namespace
 
-ClientWidget::ClientWidget(Form& form, QWidget* parent) : DrawnWidget(form.Drawing, kInTwips, parent), form_(form) {
+ClientWidget::ClientWidget(Form& form, QWidget* parent) : DrawnWidget(form.Drawing, InTwips, parent), form_(form) {
   setAttribute(Qt::WA_OpaquePaintEvent, form.Ground.has_value());
 }
 
@@ -35,16 +37,13 @@ FormWindow::FormWindow(Form& form, QWidget* owner)
   setObjectName(ToQt(form.Name));
   setFont(ToQt(Font{}));
   if (form_.MenuBar) BuildMenuBar();
-  const int menuHeight = menuBar_ ? menuBar_->height() : 0;
-  form_.MenuBarHeight = menuHeight * kTwipsPerPixel;
-  const QSize size = ToQt(form_.Position.Get()).size();
   // A menu that closes needs a widget for the focus to return to.
   if (menuBar_) client_->setFocusPolicy(Qt::ClickFocus);
-  client_->setGeometry(0, menuHeight, size.width(), size.height());
-  setFixedSize(size.width(), size.height() + menuHeight);
   MakeViews(form_, client_);
+  FitClient();
+  form_.MenuBarHeight = qRound((menuBar_ ? menuBar_->height() : 0) * kTwipsPerPixel / Zoom());
   // Before the native window is made; otherwise the window manager chooses the place.
-  if (!owner) move(ToPixels(form_.Position.Get().Left), ToPixels(form_.Position.Get().Top));
+  if (!owner) move(ToQt(form_.Position.Get()).topLeft());
   form_.View = this;
   FormChanged(Aspect::Title);
 }
@@ -52,6 +51,31 @@ FormWindow::FormWindow(Form& form, QWidget* owner)
 FormWindow::~FormWindow() {
   form_.View = nullptr;
   if (form_.MenuBar) form_.MenuBar->OnChange = nullptr;
+}
+
+/// The client area lies below the menu bar.
+void FormWindow::FitClient() {
+  const QSize size = ToQt(form_.Position.Get()).size();
+  const int menuHeight = menuBar_ ? menuBar_->sizeHint().height() : 0;
+  if (menuBar_) menuBar_->setGeometry(0, 0, size.width(), menuHeight);
+  client_->setGeometry(0, menuHeight, size.width(), size.height());
+  setFixedSize(size.width(), size.height() + menuHeight);
+}
+
+void FormWindow::Rescale() {
+  setFont(ToQt(Font{}));
+  for (ControlView* view : std::as_const(views_)) view->Rescale();
+  client_->RescaleDrawing();
+  FitClient();
+  if (isVisible()) KeepOnScreen();
+}
+
+void FormWindow::KeepOnScreen() {
+  const QRect screenRoom = screen()->availableGeometry();
+  const QRect whole = frameGeometry();
+  const QPoint corner(std::min(whole.left(), screenRoom.right() + 1 - whole.width()),
+                      std::min(whole.top(), screenRoom.bottom() + 1 - whole.height()));
+  if (corner != whole.topLeft()) move(std::max(corner.x(), screenRoom.left()), std::max(corner.y(), screenRoom.top()));
 }
 
 void FormWindow::MakeViews(const Control& container, QWidget* parent) {
@@ -84,7 +108,6 @@ void FormWindow::BuildMenuBar() {
     ShowCaption(item);
   }
   form_.MenuBar->OnChange = [this](MenuItem& item) { ShowCaption(item); };
-  menuBar_->setGeometry(0, 0, ToQt(form_.Position.Get()).width(), menuBar_->sizeHint().height());
 }
 
 /// The names of keys beside the menu entries are of the toolkit's language.
@@ -126,7 +149,7 @@ void FormWindow::FollowVisible() {
     const bool alone = parentWidget() && !parentWidget()->isVisible();
     const QPoint middle = screen()->availableGeometry().center() - rect().center();
     const QPoint origin = parentWidget() ? parentWidget()->frameGeometry().topLeft() : QPoint();
-    const QPoint own = origin + QPoint(ToPixels(place.Left), ToPixels(place.Top));
+    const QPoint own = origin + ToQt(place).topLeft();
     // A dialog without a place is left to the window manager.
     const bool anywhere = parentWidget() && place.Left == 0 && place.Top == 0;
     if (alone || !anywhere) move(alone ? middle : own);

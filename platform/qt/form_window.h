@@ -37,6 +37,9 @@ class FormWindow : public QWidget, public FormView {
   /// from where its owner is now.
   void FollowVisible();
 
+  /// Takes the size of windows that is set now.
+  void Rescale();
+
   /// Passes the size of the window manager's frame on to the form.
   void LearnFrame();
 
@@ -50,6 +53,8 @@ class FormWindow : public QWidget, public FormView {
 
  private:
   void BuildMenuBar();
+  void FitClient();
+  void KeepOnScreen();
   void MakeViews(const Control& container, QWidget* parent);
   void ShowCaption(MenuItem& item);
   void FormChanged(Aspect aspect);

@@ -10,6 +10,7 @@
 #include <QStyleOptionFrame>
 #include <QStylePainter>
 #include <QToolButton>
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -43,14 +44,19 @@ class SpokenPicture : public QAccessibleWidget {
 class PictureView : public DrawnWidget, public ControlView {
  public:
   PictureView(PictureBox& box, QWidget* parent)
-      : DrawnWidget(box.Drawing, kInPixels, parent), ControlView(box, *this), box_(box) {
+      : DrawnWidget(box.Drawing, InPixels, parent), ControlView(box, *this), box_(box) {
     setAttribute(Qt::WA_OpaquePaintEvent, box.Opaque);
     setContextMenuPolicy(Qt::PreventContextMenu);  // the right button belongs to the form
-    setContentsMargins(box.Border, box.Border, box.Border, box.Border);
   }
   void Update(Aspect aspect) override {
     if (aspect == Aspect::Drawing) DrawingChanged();
     ControlView::Update(aspect);
+  }
+  void Rescale() override {
+    ControlView::Rescale();
+    const int border = Zoomed(box_.Border);
+    setContentsMargins(border, border, border, border);
+    RescaleDrawing();
   }
   QAccessibleInterface* MakeSpoken() override { return new SpokenPicture(box_, this); }
 
@@ -97,8 +103,9 @@ class PictureView : public DrawnWidget, public ControlView {
     option.lineWidth = box_.Border;
     option.state |= QStyle::State_Sunken;
     if (box_.Border == 1) {
-      painter.setPen(QColor(0x60, 0x60, 0x60));
-      painter.drawRect(rect().adjusted(0, 0, -1, -1));
+      const double edge = std::max(1, Zoomed(1));
+      painter.setPen(QPen(QColor(0x60, 0x60, 0x60), edge, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+      painter.drawRect(QRectF(rect()).adjusted(edge / 2, edge / 2, -edge / 2, -edge / 2));
     } else {
       style()->drawPrimitive(QStyle::PE_Frame, &option, &painter, this);
     }
@@ -115,7 +122,6 @@ class ToolButton : public QToolButton {
   ToolButton(const Picture& picture, QWidget* parent) : QToolButton(parent), picture_(picture) {
     setAutoRaise(true);
     setFocusPolicy(Qt::NoFocus);
-    setIconSize(SizeOf(picture));
   }
 
  protected:
@@ -123,6 +129,7 @@ class ToolButton : public QToolButton {
     QStylePainter painter(this);
     QStyleOptionToolButton option;
     initStyleOption(&option);
+    option.iconSize = SizeOf(picture_) * Zoom();
     option.icon = QIcon(PixmapOf(picture_, devicePixelRatioF()));
     painter.drawComplexControl(QStyle::CC_ToolButton, option);
   }
@@ -135,13 +142,20 @@ class ToolButton : public QToolButton {
 class ToolBarView : public QWidget, public ControlView {
  public:
   ToolBarView(ToolBar& bar, QWidget* parent) : QWidget(parent), ControlView(bar, *this), bar_(bar) {
-    int left = kMargin;
     for (int index = 1; index <= bar_.Count(); ++index) {
-      const bool separates = bar_.Image(index).Empty();
-      buttons_.push_back(separates ? nullptr : MakeButton(index, left));
-      if (separates) rules_.push_back(left + kSeparator / 2);
-      left += separates ? kSeparator : kButton;
+      buttons_.push_back(bar_.Image(index).Empty() ? nullptr : MakeButton(index));
     }
+  }
+  void Rescale() override {
+    ControlView::Rescale();
+    rules_.clear();
+    int left = kMargin;
+    for (QToolButton* button : buttons_) {
+      if (!button) rules_.push_back(Zoomed(left + kSeparator / 2));
+      if (button) button->setGeometry(Zoomed(left), Zoomed(kMargin), Zoomed(kButton), Zoomed(kButton));
+      left += button ? kButton : kSeparator;
+    }
+    update();
   }
   void Update(Aspect aspect) override {
     if (aspect == Aspect::ToolTip) return UpdateToolTips();
@@ -152,9 +166,10 @@ class ToolBarView : public QWidget, public ControlView {
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     painter.fillRect(rect(), palette().window());
-    painter.setPen(palette().color(QPalette::Mid));
-    for (const int x : rules_) painter.drawLine(x, kMargin + 2, x, height() - kMargin - 3);
-    painter.drawLine(0, height() - 1, width(), height() - 1);
+    const QColor ink = palette().color(QPalette::Mid);
+    const int line = std::max(1, Zoomed(1)), air = Zoomed(kMargin + 2);
+    for (const int x : rules_) painter.fillRect(x, air, line, height() - 2 * air, ink);
+    painter.fillRect(0, height() - line, width(), line, ink);
   }
 
  private:
@@ -162,9 +177,8 @@ class ToolBarView : public QWidget, public ControlView {
   static constexpr int kSeparator = 8;
   static constexpr int kMargin = 2;
 
-  QToolButton* MakeButton(int index, int left) {
+  QToolButton* MakeButton(int index) {
     auto* button = new ToolButton(bar_.Image(index), this);
-    button->setGeometry(left, kMargin, kButton, kButton);
     connect(button, &QToolButton::clicked, button, [this, index] { bar_.Owner()->ClickTool(bar_, index); });
     return button;
   }
@@ -179,7 +193,7 @@ class ToolBarView : public QWidget, public ControlView {
 
   ToolBar& bar_;
   std::vector<QToolButton*> buttons_;  ///< by index - 1; null for a separator
-  std::vector<int> rules_;             ///< their places from the left
+  std::vector<int> rules_;             ///< their places from the left, in pixels of the screen
 };
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "pictures.h"
 
 #include <QApplication>
+#include <QCryptographicHash>
 #include <QFileInfo>
 #include <QHash>
 #include <QImageReader>
@@ -10,6 +11,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <memory>
+#include <optional>
 
 #include "convert.h"
 
@@ -17,16 +19,19 @@ namespace platform::qt {
 namespace {
 
 constexpr int kSeen = 1280;                        // pixels; larger than any window at 100 in 100
-constexpr qint64 kMostPixels = 50'000'000;         // a decoder may keep them all at a time
+constexpr int kMostEnlarged = 3;                   // times, a larger picture of a theme
+constexpr qint64 kMostPixels = 25'000'000;         // a decoder may keep them all at a time
 constexpr qint64 kLargestFile = 32 * 1024 * 1024;  // bytes
 
 /// A drawing or an image, and the pixels made from it last.
 struct Decoded {
   std::unique_ptr<QSvgRenderer> drawing;
   QImage image;
+  std::optional<QImage> large;  ///< the image at a larger size, empty if there is none; read when it is first needed
   std::filesystem::file_time_type fileTime;
   QPixmap pixels;
   qreal pixelsRatio = 0;
+  double pixelsScale = 0;
 
   QSize Size() const { return drawing ? drawing->defaultSize() : image.size(); }
 };
@@ -64,29 +69,54 @@ void RepaintAll() {
   for (QWidget* widget : QApplication::allWidgets()) widget->update();
 }
 
-QPixmap Render(const Decoded& decoded, qreal ratio) {
-  if (!decoded.drawing) return QPixmap::fromImage(decoded.image);
-  QPixmap pixels(decoded.Size() * ratio);
-  pixels.fill(Qt::transparent);
-  QPainter painter(&pixels);
-  decoded.drawing->render(&painter);
-  painter.end();
-  pixels.setDevicePixelRatio(ratio);
-  return pixels;
-}
-
-}  // namespace
-
-QImage ReadImageFile(const QString& path) {
+/// The JPEG picture in the file, of a larger one the top left part up to `longest` pixels wide and high. `origin` is
+/// what the file says it was enlarged from.
+QImage ReadJpeg(const QString& path, int longest, QString* origin = nullptr) {
   const QFileInfo file(path);
   if (!file.isFile() || file.size() > kLargestFile) return {};
   QImageReader reader(path, "jpeg");
   reader.setAutoDetectImageFormat(false);
   const QSize size = reader.size();
   if (static_cast<qint64>(size.width()) * size.height() > kMostPixels) return {};
-  reader.setClipRect(QRect(QPoint(), size.boundedTo({kSeen, kSeen})));
+  if (origin) *origin = reader.text("EnlargedFrom");
+  reader.setClipRect(QRect(QPoint(), size.boundedTo({longest, longest})));
   return reader.read();
 }
+
+/// The larger picture of the same name, unless the user has another picture in place of the one that it belongs to.
+QImage ReadLarge(const QString& path) {
+  const QFileInfo file(path);
+  QString origin;
+  const QImage large = ReadJpeg(file.path() + "/large/" + file.fileName(), kMostEnlarged * kSeen, &origin);
+  QFile natural(path);
+  if (large.isNull() || !natural.open(QIODevice::ReadOnly)) return {};
+  const QByteArray digest = QCryptographicHash::hash(natural.readAll(), QCryptographicHash::Md5).toHex();
+  return origin == digest ? large : QImage();
+}
+
+QPixmap Render(Decoded& decoded, const QString& path, qreal ratio, double scale) {
+  const QSize size = decoded.Size() * (ratio * scale);
+  QPixmap pixels;
+  if (decoded.drawing) {
+    pixels = QPixmap(size);
+    pixels.fill(Qt::transparent);
+    QPainter painter(&pixels);
+    decoded.drawing->render(&painter);
+  } else if (size == decoded.image.size()) {
+    pixels = QPixmap::fromImage(decoded.image);
+  } else {
+    if (!decoded.large && ratio * scale > 1) decoded.large = ReadLarge(path);
+    const bool isLarge = decoded.large && !decoded.large->isNull();
+    const QImage& source = isLarge ? *decoded.large : decoded.image;
+    pixels = QPixmap::fromImage(source.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+  }
+  pixels.setDevicePixelRatio(ratio);
+  return pixels;
+}
+
+}  // namespace
+
+QImage ReadImageFile(const QString& path) { return ReadJpeg(path, kSeen); }
 
 void ForgetPictures() { kept.clear(); }
 
@@ -105,12 +135,14 @@ bool Refresh(const Picture& picture) {
   return !found->Size().isEmpty();
 }
 
-QPixmap PixmapOf(const Picture& picture, qreal devicePixelRatio) {
+QPixmap PixmapOf(const Picture& picture, qreal devicePixelRatio, double scale) {
   if (picture.Empty()) return {};
   Decoded& decoded = *Find(picture);
-  if (!decoded.Size().isEmpty() && decoded.pixelsRatio != devicePixelRatio) {
-    decoded.pixels = Render(decoded, devicePixelRatio);
+  const bool isKept = decoded.pixelsRatio == devicePixelRatio && decoded.pixelsScale == scale;
+  if (!decoded.Size().isEmpty() && !isKept) {
+    decoded.pixels = Render(decoded, PathOf(picture), devicePixelRatio, scale);
     decoded.pixelsRatio = devicePixelRatio;
+    decoded.pixelsScale = scale;
   }
   return decoded.pixels;
 }
@@ -119,10 +151,8 @@ QIcon IconOf(const Picture& picture, const Picture& small) {
   constexpr int kLargestSmall = 24;  // pixels
   QIcon icon;
   for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
-    const Decoded& drawing = *Find(size <= kLargestSmall ? small : picture);
-    QPixmap pixels = Render(drawing, size / static_cast<qreal>(drawing.Size().width()));
-    pixels.setDevicePixelRatio(1);
-    icon.addPixmap(pixels);
+    const Picture& drawing = size <= kLargestSmall ? small : picture;
+    icon.addPixmap(PixmapOf(drawing, 1, static_cast<double>(size) / SizeOf(drawing).width()));
   }
   return icon;
 }
@@ -138,8 +168,8 @@ void DrawScaled(QPainter& painter, const Picture& picture, QPointF at, double sc
   }
 }
 
-void Draw(QPainter& painter, const Picture& picture, QPointF at) {
-  painter.drawPixmap(at, PixmapOf(picture, painter.device()->devicePixelRatioF()));
+void Draw(QPainter& painter, const Picture& picture, QPointF at, double scale) {
+  painter.drawPixmap(at, PixmapOf(picture, painter.device()->devicePixelRatioF(), scale));
 }
 
 }  // namespace platform::qt

@@ -9,11 +9,12 @@
 #include <QSize>
 
 #include "../picture.h"
+#include "zoom.h"
 
 namespace platform::qt {
 
 /// The JPEG picture in the file; empty if there is none. Only regular files are opened, as reading a pipe would never
-/// end. Of a picture larger than any window the top left part is kept. Pictures of more than 50 megapixels or 32 MiB
+/// end. Of a picture larger than any window the top left part is kept. Pictures of more than 25 megapixels or 32 MiB
 /// are refused.
 QImage ReadImageFile(const QString& path);
 
@@ -24,13 +25,13 @@ QSize SizeOf(const Picture& picture);
 /// repainted. To be called before a form gets the picture of a file.
 bool Refresh(const Picture& picture);
 
-/// The picture for a screen with this many device pixels to a pixel; a null pixmap if it cannot be loaded.
-QPixmap PixmapOf(const Picture& picture, qreal devicePixelRatio);
+/// The picture at a scale for a screen with this many device pixels to a pixel; a null pixmap if it cannot be loaded.
+QPixmap PixmapOf(const Picture& picture, qreal devicePixelRatio, double scale = Zoom());
 
-/// Draws the picture at its natural size with its top left corner at the point; nothing if it cannot be loaded.
-void Draw(QPainter& painter, const Picture& picture, QPointF at);
+/// Draws the picture at a scale with its top left corner at the point; nothing if it cannot be loaded.
+void Draw(QPainter& painter, const Picture& picture, QPointF at, double scale = Zoom());
 
-/// The same at another scale, drawings as vectors.
+/// The same at the device's own resolution, drawings as vectors, without keeping it.
 void DrawScaled(QPainter& painter, const Picture& picture, QPointF at, double scale);
 
 /// An icon in the sizes of desktops, drawn without the toolkit's plugin for drawings, which may not be installed.

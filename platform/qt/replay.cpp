@@ -9,11 +9,12 @@
 
 namespace platform::qt {
 
-double Measure::Pixel(double unit) const { return std::clamp(unit / unitsPerPixel, -30000.0, 30000.0); }
+double Measure::Pixel(double unit) const { return std::clamp(unit / unitsPerPixel * scale, -30000.0, 30000.0); }
 
 QRectF Measure::Between(double x1, double y1, double x2, double y2) const {
   const QPointF low = At(std::min(x1, x2), std::min(y1, y2));
-  return {low, QSizeF(std::max(1.0, std::abs(Pixel(x2) - Pixel(x1))), std::max(1.0, std::abs(Pixel(y2) - Pixel(y1))))};
+  return {low,
+          QSizeF(std::max(scale, std::abs(Pixel(x2) - Pixel(x1))), std::max(scale, std::abs(Pixel(y2) - Pixel(y1))))};
 }
 
 void StepPainter::operator()(const TextStep& step) {
@@ -30,32 +31,57 @@ void StepPainter::operator()(const TextStep& step) {
 
 void StepPainter::operator()(const LineStep& step) {
   if (step.X1 == step.X2 || step.Y1 == step.Y2) {
-    painter_.fillRect(measure_.Between(step.X1, step.Y1, step.X2, step.Y2), ToQt(step.Ink));
+    Fill(measure_.Between(step.X1, step.Y1, step.X2, step.Y2), step.Ink);
   } else {
-    painter_.setPen(ToQt(step.Ink));
+    painter_.setPen(QPen(ToQt(step.Ink), measure_.scale));
     painter_.drawLine(measure_.At(step.X1, step.Y1), measure_.At(step.X2, step.Y2));
   }
 }
 
 void StepPainter::operator()(const BoxStep& step) {
   const QRectF box = measure_.Between(step.X1, step.Y1, step.X2, step.Y2);
-  if (step.Filled) {
-    painter_.fillRect(box, ToQt(step.Ink));
-  } else {
-    // The line reaches one unit into the box. What is drawn inside leaves the outline whole.
-    const double inside = 1 - measure_.lineWidth / 2;
-    painter_.setPen(QPen(ToQt(step.Ink), measure_.lineWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter_.setBrush(Qt::NoBrush);
-    painter_.drawRect(box.adjusted(inside, inside, -inside, -inside));
-  }
+  step.Filled ? Fill(box, step.Ink) : Outline(box, step.Ink);
 }
 
 void StepPainter::operator()(const PictureStep& step) {
-  if (measure_.pictureScale == 1) {
-    Draw(painter_, step.Image, measure_.At(step.X, step.Y));
-  } else {
-    DrawScaled(painter_, step.Image, measure_.At(step.X, step.Y), measure_.pictureScale);
+  const double scale = measure_.pictureScale * measure_.scale;
+  measure_.onScreen ? Draw(painter_, step.Image, measure_.At(step.X, step.Y), scale)
+                    : DrawScaled(painter_, step.Image, measure_.At(step.X, step.Y), scale);
+}
+
+/// On a screen the edges are rounded to its pixels, and of a box that is no thicker than a line the thickness, so that
+/// rules are equal wherever they are.
+QRectF StepPainter::OnWholePixels(const QRectF& box) const {
+  const QTransform device = painter_.deviceTransform();
+  const QRectF exact = device.mapRect(box);
+  const auto end = [this](double from, double to, double length) {
+    const int size = length <= measure_.scale ? qRound(to - from) : qRound(to) - qRound(from);
+    return qRound(from) + std::max(1, size);
+  };
+  const QPointF low(qRound(exact.left()), qRound(exact.top()));
+  const QPointF high(end(exact.left(), exact.right(), box.width()), end(exact.top(), exact.bottom(), box.height()));
+  return device.inverted().mapRect(QRectF(low, high));
+}
+
+void StepPainter::Fill(const QRectF& box, Colour ink) {
+  painter_.fillRect(measure_.onScreen ? OnWholePixels(box) : box, ToQt(ink));
+}
+
+void StepPainter::Outline(const QRectF& box, Colour ink) {
+  if (!measure_.onScreen) {
+    // The line reaches one unit into the box. What is drawn inside leaves the outline whole.
+    const double inside = 1 - measure_.lineWidth / 2;
+    painter_.setPen(QPen(ToQt(ink), measure_.lineWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter_.setBrush(Qt::NoBrush);
+    return painter_.drawRect(box.adjusted(inside, inside, -inside, -inside));
   }
+  const QRectF outer = OnWholePixels(box);
+  const QSizeF line = OnWholePixels(QRectF(box.topLeft(), QSizeF(measure_.scale, measure_.scale))).size();
+  const QRectF inner = outer.adjusted(line.width(), line.height(), -line.width(), -line.height());
+  painter_.fillRect(QRectF(outer.topLeft(), QPointF(outer.right(), inner.top())), ToQt(ink));
+  painter_.fillRect(QRectF(QPointF(outer.left(), inner.bottom()), outer.bottomRight()), ToQt(ink));
+  painter_.fillRect(QRectF(outer.topLeft(), QPointF(inner.left(), outer.bottom())), ToQt(ink));
+  painter_.fillRect(QRectF(QPointF(inner.right(), outer.top()), outer.bottomRight()), ToQt(ink));
 }
 
 void StepPainter::UseFace(const TextStep& step) {

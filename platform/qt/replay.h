@@ -11,23 +11,26 @@ namespace platform::qt {
 struct Measure {
   double unitsPerPixel = 1;
   double pixelsPerPoint = kScreenPixelsPerPoint;
-  double lineWidth = 1;     ///< of outlines, in the painter's units
+  double scale = 1;         ///< of everything that is measured in pixels
+  double lineWidth = 1;     ///< of outlines, in pixels
   double rightEdge = 0;     ///< where text ends at the latest, in the painter's units; 0: anywhere
-  double pictureScale = 1;  ///< at other scales than 1 pictures are drawn as vectors
+  double pictureScale = 1;  ///< of pictures, beside the other
+  bool onScreen = false;    ///< rules are whole pixels of the screen, pictures are drawn once and kept
 
   /// A length or place of the surface in the painter's units. Counts from a file can put a step anywhere; what is far
   /// outside is never seen.
   double Pixel(double unit) const;
   QPointF At(double x, double y) const { return {Pixel(x), Pixel(y)}; }
-  /// The box from one corner up to the other without it, at least one pixel wide and high.
+  /// The box from one corner up to the other without it, at least as wide and high as a line.
   QRectF Between(double x1, double y1, double x2, double y2) const;
-  QFont FaceOf(const TextStep& step) const { return ToQt(step.Face, pixelsPerPoint); }
+  QFont FaceOf(const TextStep& step) const { return ToQt(step.Face, pixelsPerPoint, scale); }
   /// How far a halo reaches around its letters, in the painter's units.
-  double HaloWidth() const { return 1.5 * pixelsPerPoint; }
+  double HaloWidth() const { return 1.5 * pixelsPerPoint * scale; }
 };
 
-inline constexpr Measure kInPixels{};
-inline constexpr Measure kInTwips{.unitsPerPixel = kTwipsPerPixel};
+// For windows in their present size.
+inline Measure InPixels() { return {.scale = Zoom(), .onScreen = true}; }
+inline Measure InTwips() { return {.unitsPerPixel = kTwipsPerPixel, .scale = Zoom(), .onScreen = true}; }
 
 /// Draws one step after the other.
 class StepPainter {
@@ -45,6 +48,9 @@ class StepPainter {
   void DrawHalo(const TextStep& step, const QPointF& foot);
 
  private:
+  void Fill(const QRectF& box, Colour ink);
+  void Outline(const QRectF& box, Colour ink);
+  QRectF OnWholePixels(const QRectF& box) const;
   /// 0 for a text without limit.
   double RoomFor(const TextStep& step) const;
   /// Draws a text that is too long narrower, and where that would be unreadable cuts it with dots.

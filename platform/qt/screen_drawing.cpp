@@ -17,6 +17,11 @@ bool IsPlain(const std::string& text) {
 
 }  // namespace
 
+void ScreenDrawing::SetMeasure(const Measure& measure) {
+  measure_ = measure;
+  for (ShownStep& shown : shown_) shown = Shown(shown.Step);
+}
+
 QRegion ScreenDrawing::Follow(std::span<const DrawingStep> now) {
   QRegion change;
   for (std::size_t i = 0; i < std::max(shown_.size(), now.size()); ++i) {
@@ -67,17 +72,17 @@ QStaticText ScreenDrawing::LaidOut(const TextStep& step) const {
 QRectF ScreenDrawing::ExtentOf(const DrawingStep& step, const QStaticText& letters) const {
   if (const auto* text = std::get_if<TextStep>(&step)) {
     const double halo = text->Halo ? measure_.HaloWidth() : 0;
-    const double aside = text->Face.Size / 2 + halo;  // letters may lean out of their cells
+    const double aside = text->Face.Size / 2 * measure_.scale + halo;  // letters may lean out of their cells
     return QRectF(measure_.At(text->X, text->Y), letters.size()).adjusted(-aside, -halo, aside, halo);
   }
   if (const auto* line = std::get_if<LineStep>(&step)) return measure_.Between(line->X1, line->Y1, line->X2, line->Y2);
   if (const auto* box = std::get_if<BoxStep>(&step)) return measure_.Between(box->X1, box->Y1, box->X2, box->Y2);
   const auto& picture = std::get<PictureStep>(step);
-  return {measure_.At(picture.X, picture.Y), SizeOf(picture.Image)};
+  return {measure_.At(picture.X, picture.Y), QSizeF(SizeOf(picture.Image)) * measure_.scale};
 }
 
-DrawnWidget::DrawnWidget(const Surface& drawing, const Measure& measure, QWidget* parent)
-    : QWidget(parent), drawing_(drawing), shown_(measure) {
+DrawnWidget::DrawnWidget(const Surface& drawing, Measure (*measure)(), QWidget* parent)
+    : QWidget(parent), drawing_(drawing), measure_(measure), shown_(measure()) {
   shown_.Follow(drawing.Steps());  // which may be there before the window
 }
 
@@ -85,6 +90,11 @@ void DrawnWidget::DrawingChanged() {
   if (std::exchange(due_, true)) return;
   const auto showChange = [this] { update(TakeChange()); };
   QMetaObject::invokeMethod(this, showChange, Qt::QueuedConnection);
+}
+
+void DrawnWidget::RescaleDrawing() {
+  shown_.SetMeasure(measure_());
+  update();
 }
 
 QRegion DrawnWidget::TakeChange() {

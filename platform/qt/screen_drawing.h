@@ -19,6 +19,9 @@ class ScreenDrawing {
  public:
   explicit ScreenDrawing(const Measure& measure) : measure_(measure) {}
 
+  /// Lays out all steps anew.
+  void SetMeasure(const Measure& measure);
+
   /// Takes over a drawing and returns where it may differ from the one before, in pixels: the places of all steps whose
   /// counterpart in the other list is different. Everywhere else the same steps were drawn in the same order.
   QRegion Follow(std::span<const DrawingStep> now);
@@ -36,16 +39,19 @@ class ScreenDrawing {
   QStaticText LaidOut(const TextStep& step) const;
   QRectF ExtentOf(const DrawingStep& step, const QStaticText& letters) const;
 
-  const Measure& measure_;
+  Measure measure_;
   std::vector<ShownStep> shown_;
 };
 
 /// A widget with a drawing. Of a new drawing only the difference to the one before is painted.
 class DrawnWidget : public QWidget {
  public:
-  DrawnWidget(const Surface& drawing, const Measure& measure, QWidget* parent);
+  /// `measure` gives the units of the drawing for the present size of windows.
+  DrawnWidget(const Surface& drawing, Measure (*measure)(), QWidget* parent);
   /// Called for each step that is drawn. The change is painted when control returns to the event loop.
   void DrawingChanged();
+  /// The size of windows has changed.
+  void RescaleDrawing();
 
  protected:
   /// Paints a ground, the picture on it and the drawing within the region. `at` is the corner of picture and drawing,
@@ -57,6 +63,7 @@ class DrawnWidget : public QWidget {
   QRegion TakeChange();
 
   const Surface& drawing_;
+  Measure (*const measure_)();
   ScreenDrawing shown_;
   bool due_ = false;
 };

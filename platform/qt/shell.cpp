@@ -6,6 +6,8 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QScreen>
+#include <QWheelEvent>
 #include <QWindow>
 #include <utility>
 
@@ -63,8 +65,11 @@ KeyTracker::Time TimeOf(const QKeyEvent& event) { return KeyTracker::Time(event.
 
 }  // namespace
 
-Shell::Shell(Desktop& desktop, Form& mainForm) : desktop_(desktop), mainForm_(mainForm) {
+Shell::Shell(Desktop& desktop, Form& mainForm, int size) : desktop_(desktop), mainForm_(mainForm) {
+  SetZoom(size_);
   MakeWindow(mainForm_);
+  while (!Fits(size) && NextSize(size, false) != size) size = NextSize(size, false);
+  if (size != size_) Resize(size);
   for (Form* form : desktop_.Forms()) StartTimers(*form);
   desktop_.OnChange = [this](Form& form, Aspect aspect) { FormChanged(form, aspect); };
   qApp->installEventFilter(this);
@@ -137,6 +142,10 @@ bool Shell::FilterForWindow(FormWindow& window, QEvent& event) {
   if (event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease) {
     return HandleKey(window, static_cast<QKeyEvent&>(event));
   }
+  if (event.type() == QEvent::Wheel && static_cast<QWheelEvent&>(event).modifiers().testFlag(Qt::ControlModifier)) {
+    TurnWheel(static_cast<QWheelEvent&>(event));
+    return true;
+  }
   if (!IsUserInput(event.type()) || window.Model().AcceptsInput()) return false;
   Form* front = event.type() == QEvent::MouseButtonPress ? desktop_.Front() : nullptr;
   if (front) {
@@ -148,6 +157,7 @@ bool Shell::FilterForWindow(FormWindow& window, QEvent& event) {
 
 bool Shell::HandleKey(FormWindow& window, QKeyEvent& event) {
   if (MenuIsInUse()) return false;
+  if (HandleSizeKey(event)) return true;
   const bool own = window.Model().AcceptsInput();
   DeliverReleases(CodeOf(event));
   Form* receiver = desktop_.KeyReceiver(window.Model());
@@ -157,6 +167,54 @@ bool Shell::HandleKey(FormWindow& window, QKeyEvent& event) {
     ReleaseKey(receiver, event);
   }
   return !own || !BelongsToWidgetToo(CodeOf(event), window.focusWidget());
+}
+
+/// Ctrl with plus, minus or 0. Plus is the key itself or, where it needs Shift, the sign that shares its key.
+bool Shell::HandleSizeKey(const QKeyEvent& event) {
+  const Qt::KeyboardModifiers held = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+  if (held != Qt::ControlModifier) return false;
+  const KeyCode code = CodeOf(event);
+  const bool larger = event.key() == Qt::Key_Plus || event.key() == Qt::Key_Equal;
+  const bool smaller = event.key() == Qt::Key_Minus || event.key() == Qt::Key_Underscore;
+  const bool natural = code == '0' || code == kKeyNumberPad0;
+  if (!larger && !smaller && !natural) return false;
+  if (event.type() == QEvent::KeyPress) ChooseSize(natural ? kNaturalSize : NextSize(size_, larger));
+  return true;
+}
+
+void Shell::TurnWheel(const QWheelEvent& event) {
+  wheel_ += event.angleDelta().y();
+  if (std::abs(wheel_) < QWheelEvent::DefaultDeltasPerStep) return;
+  ChooseSize(NextSize(size_, wheel_ > 0));
+  wheel_ = 0;
+}
+
+void Shell::ChooseSize(int size) {
+  if (size == size_ || !Fits(size)) return;
+  Resize(size);
+  if (OnResize) OnResize(size);
+}
+
+void Shell::Resize(int size) {
+  size_ = size;
+  SetZoom(size);
+  QApplication::setFont(ToQt(Font{}));  // of menus, tooltips, message boxes and the file dialog
+  for (auto& [form, window] : windows_) window->Rescale();
+}
+
+/// Whether the largest window fits on the screen, with its frame, or as long as that is not known, a usual one.
+bool Shell::Fits(int size) const {
+  constexpr int kUsualFrame = 600;  // twips
+  QSize room;
+  for (const Form* form : desktop_.Forms()) {
+    const Place place = form->Position;
+    room = room.expandedTo({place.Width, place.Height + form->MenuBarHeight});
+  }
+  const int frameHeight = mainForm_.FrameHeight > 0 ? mainForm_.FrameHeight : kUsualFrame;
+  const QSize frame(mainForm_.FrameWidth, frameHeight);
+  const QSize needed = (room * size / kNaturalSize + frame) / kTwipsPerPixel;
+  const QSize screen = WindowOf(mainForm_)->screen()->availableSize();
+  return needed.width() <= screen.width() && needed.height() <= screen.height();
 }
 
 void Shell::PressKey(Form* receiver, const QKeyEvent& event) {

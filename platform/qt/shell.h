@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
+#include <functional>
 #include <map>
 #include <memory>
 #include <vector>
@@ -16,17 +17,22 @@
 #include "key_codes.h"
 
 class QKeyEvent;
+class QWheelEvent;
 
 namespace platform::qt {
 
 class Shell : public QObject {
  public:
-  /// `mainForm` owns the others' windows. Both outlive the shell.
-  Shell(Desktop& desktop, Form& mainForm);
+  /// `mainForm` owns the others' windows. Both outlive the shell. Windows have the size, in 100, or the largest below
+  /// it that fits on the screen.
+  Shell(Desktop& desktop, Form& mainForm, int size = kNaturalSize);
   ~Shell() override;
 
   /// The window of a form; null before it was first shown.
   FormWindow* WindowOf(const Form& form) const;
+
+  /// Called when the user has chosen another size of windows, in 100.
+  std::function<void(int size)> OnResize;
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -45,6 +51,11 @@ class Shell : public QObject {
 
   bool FilterForWindow(FormWindow& window, QEvent& event);
   bool HandleKey(FormWindow& window, QKeyEvent& event);
+  bool HandleSizeKey(const QKeyEvent& event);
+  void TurnWheel(const QWheelEvent& event);
+  void ChooseSize(int size);
+  void Resize(int size);
+  bool Fits(int size) const;
   void PressKey(Form* receiver, const QKeyEvent& event);
   void ReleaseKey(Form* receiver, const QKeyEvent& event);
   void DeliverReleases(KeyCode except);
@@ -56,6 +67,8 @@ class Shell : public QObject {
   Form& mainForm_;
   std::map<const Form*, std::unique_ptr<FormWindow>> windows_;
   bool calledBack_ = false;  ///< by a click on a locked window
+  int size_ = kNaturalSize;
+  int wheel_ = 0;  ///< what it has turned since the last step, in the toolkit's units
   KeyTracker keys_{OnWayland()};
   std::vector<WaitingRelease> waiting_;
 };

@@ -21,7 +21,8 @@ using platform::qt::ToQt;
 
 constexpr Colour kInk{255, 0, 0};
 
-QImage Painted(const Surface& surface, const platform::qt::Measure& measure = platform::qt::kInPixels, int scale = 1) {
+QImage Painted(const Surface& surface, const platform::qt::Measure& measure = platform::qt::InPixels(),
+               qreal scale = 1) {
   QImage image(QSize(80, 40) * scale, QImage::Format_RGB32);
   image.setDevicePixelRatio(scale);
   image.fill(Qt::white);
@@ -90,8 +91,18 @@ TEST(Replay, BoxesReachUpToTheirSecondCornerAndAreNeverEmpty) {
 TEST(Replay, TwipsAndScaledScreensKeepThePlace) {
   Surface surface;
   surface.Line(150, 60, 300, 60, kInk);
-  EXPECT_EQ(Inked(Painted(surface, platform::qt::kInTwips)), QRect(10, 4, 10, 1));
-  EXPECT_EQ(Inked(Painted(surface, platform::qt::kInTwips, 3)), QRect(30, 12, 30, 3));
+  EXPECT_EQ(Inked(Painted(surface, platform::qt::InTwips())), QRect(10, 4, 10, 1));
+  EXPECT_EQ(Inked(Painted(surface, platform::qt::InTwips(), 3)), QRect(30, 12, 30, 3));
+}
+
+TEST(Replay, RulesOfEqualThicknessAreEqualWhereverTheyAre) {
+  platform::qt::SetZoom(125);
+  for (const int x : {3, 10, 23, 38}) {
+    Surface surface;
+    surface.Line(x, 0, x, 20, kInk);
+    EXPECT_EQ(Inked(Painted(surface, platform::qt::InPixels(), 1.5)).width(), 2) << x;
+  }
+  platform::qt::SetZoom(platform::qt::kNaturalSize);
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // Every window and box in every language: no word is of another one, every caption fits its control, and every drawn
-// text the room that it has, in the real font.
+// text the room that it has, in the real font, at every size of windows.
 #include <QAction>
 #include <QFileSystemModel>
 #include <QFontMetrics>
@@ -24,6 +24,7 @@ using platform::Control;
 using platform::Surface;
 using platform::TextStep;
 using platform::qt::ToQt;
+using platform::qt::Zoomed;
 
 constexpr int kMarkRoom = 20;   // pixels beside a check box or option button
 constexpr int kButtonRoom = 8;  // within a button's edges
@@ -35,6 +36,7 @@ void ExpectFits(Control& control, int taken, bool lines) {
   const auto* kind = dynamic_cast<Kind*>(&control);
   if (!kind) return;
   const QRect place = ToQt(control.Position.Get());
+  taken = Zoomed(taken);
   const QFont font = ToQt(control.Face.Get());
   const QString text = ToQt(platform::WithoutMnemonic(kind->Caption));
   const QSize size =
@@ -57,13 +59,15 @@ void ExpectCaptionsFit(platform::Container& container) {
 
 /// No drawn text runs into another or out of its surface.
 void ExpectRoom(const Surface& surface, QSize size, double unitsPerPixel) {
+  const double scale = platform::qt::Zoom() / unitsPerPixel;
+  size *= platform::qt::Zoom();
   std::vector<std::pair<QRectF, std::string>> drawn;
   for (const platform::DrawingStep& step : surface.Steps()) {
     const auto* text = std::get_if<TextStep>(&step);
     if (!text || text->Text.empty()) continue;
     const QFontMetricsF metrics(ToQt(text->Face));
     QRectF ink = metrics.tightBoundingRect(ToQt(text->Text));
-    ink.translate(text->X / unitsPerPixel, text->Y / unitsPerPixel + metrics.ascent());
+    ink.translate(text->X * scale, text->Y * scale + metrics.ascent());
     EXPECT_TRUE(ink.right() <= size.width() && ink.bottom() <= size.height()) << text->Text;
     for (const auto& [other, otherText] : drawn) {
       EXPECT_FALSE(ink.intersects(other)) << text->Text << " over " << otherText;
@@ -195,6 +199,18 @@ class RoomForTexts : public tests::RealWindows {
     return said;
   }
 
+  void ExpectAllFits(int size) {
+    SCOPED_TRACE(size);
+    platform::qt::SetZoom(size);
+    for (platform::Form* form : Window.Desktop.Forms()) ExpectCaptionsFit(*form);
+    ExpectRoom(Window.F1.picW.Drawing, {609, 237}, 1);
+    ExpectRoom(Window.F1.picInfoLine.Drawing, {609, 21}, 1);
+    ExpectRoom(Window.F1.picSP(5).Drawing, {185, 57}, 1);
+    ExpectRoom(Window.F3.picFlash.Drawing, {321, 67}, 1);
+    ExpectRoom(Window.F1.Drawing, {633, 557}, platform::kTwipsPerPixel);
+    platform::qt::SetZoom(platform::qt::kNaturalSize);
+  }
+
   /// The widest figures that a sound game can show.
   void FillTheChart() {
     core::Game& game = Window.State.game;
@@ -216,13 +232,8 @@ TEST_F(RoomForTexts, EveryCaptionFitsItsControlAndEveryDrawnTextItsRoom) {
     SCOPED_TRACE(name);
     UseLanguage(name);
     Window.F9.ShowStanding();
-    for (platform::Form* form : Window.Desktop.Forms()) ExpectCaptionsFit(*form);
     FillTheChart();
-    ExpectRoom(Window.F1.picW.Drawing, {609, 237}, 1);
-    ExpectRoom(Window.F1.picInfoLine.Drawing, {609, 21}, 1);
-    ExpectRoom(Window.F1.picSP(5).Drawing, {185, 57}, 1);
-    ExpectRoom(Window.F3.picFlash.Drawing, {321, 67}, 1);
-    ExpectRoom(Window.F1.Drawing, {633, 557}, platform::kTwipsPerPixel);
+    for (const int percent : platform::qt::kSizes) ExpectAllFits(percent);
   }
 }
 

@@ -12,7 +12,7 @@
 namespace {
 
 using platform::Surface;
-using platform::qt::kInTwips;
+using platform::qt::InTwips;
 using platform::qt::ScreenDrawing;
 
 constexpr QSize kSize(240, 120);
@@ -21,7 +21,7 @@ QImage Whole(const Surface& surface) {
   QImage image(kSize, QImage::Format_RGB32);
   image.fill(Qt::black);
   QPainter painter(&image);
-  platform::qt::Replay(painter, surface, kInTwips);
+  platform::qt::Replay(painter, surface, InTwips());
   return image;
 }
 
@@ -53,7 +53,7 @@ TEST(ScreenDrawing, PaintingTheChangeEqualsPaintingAll) {
   std::mt19937 chance(20);
   std::vector<std::uint_fast32_t> seeds;
   Surface surface;
-  ScreenDrawing kept(kInTwips);
+  ScreenDrawing kept(InTwips());
   QImage grown(kSize, QImage::Format_RGB32);
   grown.fill(Qt::black);
   for (int i = 0; i < 300; ++i) {

@@ -51,6 +51,21 @@ TEST_F(Widgets, ALongPressIsTheSecondButton) {
   EXPECT_TRUE(Window.F7.Visible);
 }
 
+TEST_F(Widgets, GrowByKeysAndWheelAsFarAsTheScreenHasRoomAndKeepTheirPlaces) {
+  std::vector<int> sizes;
+  Shell.OnResize = [&sizes](int size) { sizes.push_back(size); };
+  for (int i = 0; i < 2; ++i) Type(Window.F1, Qt::Key_Plus, Qt::ControlModifier);  // 150 would leave the screen
+  EXPECT_EQ(WindowOf(Window.F1).width(), qRound(633 * 1.25));
+  Click(Window.F1.picWurfel(0));
+  EXPECT_EQ(WidgetOf(Window.F7.cmdOK).font().pixelSize(), 13);
+  const QPoint at(5, 5);
+  QWheelEvent down(at, at, {}, {0, -120}, {}, Qt::ControlModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(WindowOf(Window.F7).windowHandle(), &down);
+  Type(Window.F7, Qt::Key_Minus, Qt::ControlModifier | Qt::KeypadModifier);
+  Type(Window.F7, Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(sizes, (std::vector<int>{125, 100, 90, 100}));
+}
+
 TEST_F(Widgets, AssistiveToolsPressPicturesAndSetTexts) {
   QAccessibleInterface* die = QAccessible::queryAccessibleInterface(&WidgetOf(Window.F1.picWurfel(0)));
   die->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());

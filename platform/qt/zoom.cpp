@@ -1,0 +1,40 @@
+#include "zoom.h"
+
+#include <QStyleOption>
+#include <algorithm>
+#include <iterator>
+
+namespace platform::qt {
+namespace {
+
+double zoom = 1;
+
+}  // namespace
+
+double Zoom() { return zoom; }
+
+void SetZoom(int size) { zoom = size / static_cast<double>(kNaturalSize); }
+
+int NextSize(int size, bool larger) {
+  const int* next = larger ? std::upper_bound(std::begin(kSizes), std::end(kSizes), size)
+                           : std::lower_bound(std::begin(kSizes), std::end(kSizes), size) - 1;
+  return next < std::begin(kSizes) || next == std::end(kSizes) ? size : *next;
+}
+
+int ZoomStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+  return Zoomed(QProxyStyle::pixelMetric(metric, option, widget));
+}
+
+/// The arrow of a list has a width of its own, which is no metric.
+QRect ZoomStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                                const QWidget* widget) const {
+  QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
+  if (control != CC_ComboBox) return rect;
+  const int arrow = QProxyStyle::subControlRect(control, option, SC_ComboBoxArrow, widget).width();
+  const int more = Zoomed(arrow) - arrow;
+  if (part == SC_ComboBoxArrow) rect.setLeft(rect.left() - more);
+  if (part == SC_ComboBoxEditField) rect.setRight(rect.right() - more);
+  return rect;
+}
+
+}  // namespace platform::qt
