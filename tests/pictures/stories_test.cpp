@@ -129,6 +129,7 @@ class Stories : public MainWindowTest, public testing::WithParamInterface<std::s
         state["file " + name] = "file " + name + ", " + std::to_string(file_size(Folder / name)) + " bytes";
     }
     state["theme"] = window.F1.Image.Get().Name;
+    state["strip"] = "strip" + Quoted(" ", window.F1.Drawing.Spoken());
     state["clock"] = Caption("mnuExtraClock");
     state["lock"] = window.F1.Enabled ? "the main window is free" : "the main window is locked";
     state["quit"] = services.QuitStatus == -1 ? "" : "the program ends";
@@ -139,8 +140,9 @@ class Stories : public MainWindowTest, public testing::WithParamInterface<std::s
                                           Flag(" Yes/No", box.Buttons == platform::Buttons::YesNo);
     }
     for (std::size_t i = 0; i < services.FileDialogs.size(); ++i) {
+      const platform::FileDialog& dialog = services.FileDialogs[i];
       state["dialog " + std::to_string(i)] =
-          "file dialog \"" + services.FileDialogs[i].DialogTitle + "\" " + services.FileDialogs[i].Filter;
+          "file dialog" + Quoted(" ", dialog.DialogTitle) + " " + dialog.Filter + Quoted(" adds ", dialog.DefaultExt);
     }
     Add(state, "game", WithNumbers(storage::GameFileText(window.State), "game:"));
     Add(state, "settings", WithNumbers(storage::SettingsText(window.State), "settings:"));
