@@ -82,8 +82,8 @@ void DrawHead(const core::RankedPlayer& ranked, int place, int y, Surface& table
   table.ForeColor = platform::kBlack;
   table.FontSize = 12;
   table.FontBold = true;
-  table.PrintAt(kRankX, y, std::to_string(ranked.Rank) + ".");
   table.Halo.reset();
+  table.PrintAt(kRankX, y, std::to_string(ranked.Rank) + ".");
   table.PrintAt(kNameX, y, ranked.Name);
   table.Halo = GroundOf(place);  // a long name passes beneath the figures
   table.PrintAt(kPointsX, y, core::PrintedNumber(ranked.Points));
