@@ -207,6 +207,23 @@ def a_start_without_a_language_file_is_refused(program):
     assert program.wait_for_end() > 0
 
 
+def a_killed_evening_is_found_again(program):
+    """The copy lies at the side of the open dialog."""
+    program.start()
+    program.roll("4", "3")
+    program.roll("6", "5")
+    time.sleep(1)
+    program.process.kill()
+    program.start()
+    program.keys("ctrl+f")
+    program.screen.click(program.dialog(), 60, 108)  # the third place at the side
+    program.keys("alt+n")
+    program.write(next((program.screen.folder / ".local/state/orvanbeg").glob("*.obg")).name)
+    program.keys("Return")
+    program.wait_for_main()
+    expect_rolls(program, (4, 3), (6, 5))
+
+
 def a_disk_that_fails(program):
     """Save and quit tell it; there is no half of a file, and the settings are as before."""
     program.start()
@@ -231,7 +248,7 @@ def a_disk_that_fails(program):
 SCENES = {XScreen: (a_whole_evening_and_the_next, rolls_by_key_and_mouse, keys_held_overlapping_and_in_a_hurry,
                     the_top_row_counts_whatever_the_layout, a_locked_main_window_takes_nothing,
                     an_installed_program_writes_into_its_users_folders, a_start_without_a_language_file_is_refused,
-                    a_disk_that_fails),
+                    a_killed_evening_is_found_again, a_disk_that_fails),
           WaylandScreen: (rolls_by_key_and_mouse, keys_held_overlapping_and_in_a_hurry,
                           the_top_row_counts_whatever_the_layout, a_locked_main_window_takes_nothing)}
 
