@@ -7,6 +7,7 @@
 #include <QMessageBox>
 #include <QStyleHints>
 #include <QTimer>
+#include <memory>
 
 #include "../../platform/qt/pictures.h"
 #include "../../platform/qt/qt_services.h"
@@ -38,16 +39,16 @@ TEST_F(Widgets, AListGoesOnFromTheEntryThatItShows) {
 
 TEST_F(Widgets, ALongPressIsTheSecondButton) {
   QGuiApplication::styleHints()->setMousePressAndHoldInterval(20);
-  QPointingDevice* finger = QTest::createTouchDevice();
+  const std::unique_ptr<QPointingDevice> finger(QTest::createTouchDevice());
   QWidget& die = WidgetOf(Window.F1.picWurfel(0));
   const QPoint at = die.mapTo(die.window(), die.rect().center());
   QWindow* window = die.window()->windowHandle();
-  QTest::touchEvent(window, finger).press(0, at, window);
+  QTest::touchEvent(window, finger.get()).press(0, at, window);
   EXPECT_TRUE(QTest::qWaitFor([this] { return Window.State.figures.TotalRolls == 1; }));
-  QTest::touchEvent(window, finger).release(0, at, window);
+  QTest::touchEvent(window, finger.get()).release(0, at, window);
   EXPECT_FALSE(Window.F7.Visible);
-  QTest::touchEvent(window, finger).press(0, at, window);
-  QTest::touchEvent(window, finger).release(0, at, window);
+  QTest::touchEvent(window, finger.get()).press(0, at, window);
+  QTest::touchEvent(window, finger.get()).release(0, at, window);
   EXPECT_TRUE(Window.F7.Visible);
 }
 
