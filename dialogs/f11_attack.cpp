@@ -92,6 +92,7 @@ void F11::DrawTotals() {
   platform::Surface& table = picShowPlayers.Drawing;
   const core::BoardTotals totals = core::CountBoard(state().game);
   const int right = platform::ToPixels(kTablePlace.Width);
+  table.Halo.reset();
   table.Line(kNameX, kLineY, right, kLineY, table.ForeColor);
   table.PrintAt(totals.Cities < 10 ? kCitiesX : kTwoDigitCitiesX, kTotalsY, std::to_string(totals.Cities) + "/");
   table.PrintAt(kMetropolisesX, kTotalsY, std::to_string(totals.Metropolises));
