@@ -1,5 +1,6 @@
 #include "zoom.h"
 
+#include <QPainter>
 #include <QStyleOption>
 #include <algorithm>
 #include <iterator>
@@ -23,6 +24,24 @@ int NextSize(int size, bool larger) {
 
 int ZoomStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   return Zoomed(QProxyStyle::pixelMetric(metric, option, widget));
+}
+
+/// The toolkit draws the arrow of a list in one size.
+void ZoomStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                   const QWidget* widget) const {
+  const auto* list = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+  if (!list || Zoom() == 1) return QProxyStyle::drawComplexControl(control, option, painter, widget);
+  QStyleOptionComboBox bare = *list;
+  bare.subControls &= ~SC_ComboBoxArrow;
+  QProxyStyle::drawComplexControl(control, &bare, painter, widget);
+  const QRectF room = subControlRect(control, option, SC_ComboBoxArrow, widget);
+  const double half = 3.5 * Zoom();
+  const QPointF middle = room.center();
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->setPen(Qt::NoPen);
+  painter->setBrush(list->palette.buttonText());
+  painter->drawPolygon(
+      QPolygonF{middle - QPointF(half, half / 2), middle + QPointF(half, -half / 2), middle + QPointF(0, half / 2)});
 }
 
 /// The arrow of a list has a width of its own, which is no metric.

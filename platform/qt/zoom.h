@@ -27,6 +27,8 @@ class ZoomStyle : public QProxyStyle {
   ZoomStyle() : QProxyStyle("Fusion") {}
 
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget) const override;
   QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
                        const QWidget* widget) const override;
 };
