@@ -1,7 +1,5 @@
 #include "standing_table.h"
 
-#include <ranges>
-
 #include "../core/game_state.h"
 #include "../core/numbers.h"
 #include "../core/points.h"
@@ -90,9 +88,12 @@ void DrawHead(const core::RankedPlayer& ranked, int place, int y, Surface& table
 }
 
 /// A row finds its player by the name, so players of one name share their cells.
-auto PlayersOf(const core::RankedPlayer& ranked, const core::Game& game) {
-  const auto bearsName = [&ranked](const TPlayer& player) { return player.Name == ranked.Name; };
-  return core::PlayersAtTheTable(game) | std::views::filter(bearsName);
+std::vector<const TPlayer*> PlayersOf(const core::RankedPlayer& ranked, const core::Game& game) {
+  std::vector<const TPlayer*> players;
+  for (const TPlayer& player : core::PlayersAtTheTable(game)) {
+    if (player.Name == ranked.Name) players.push_back(&player);
+  }
+  return players;
 }
 
 std::string SpokenCells(const State& state, const TPlayer& player) {
@@ -118,7 +119,7 @@ std::string SpokenStanding(const State& state, const std::vector<core::RankedPla
   for (const core::RankedPlayer& ranked : ranking) {
     spoken += std::to_string(ranked.Rank) + ". " + ranked.Name + ": " + std::to_string(ranked.Points) + " ";
     spoken += state.Text(core::text::VictoryPoints);
-    for (const TPlayer& player : PlayersOf(ranked, state.game)) spoken += SpokenCells(state, player);
+    for (const TPlayer* player : PlayersOf(ranked, state.game)) spoken += SpokenCells(state, *player);
     spoken += "; ";
   }
   return spoken;
@@ -136,8 +137,8 @@ void DrawStandingTable(const State& state, const std::vector<core::RankedPlayer>
     const int y = place * kRowHeight + 1;
     DrawHead(ranked, place, y, picRanking);
     picRanking.FontBold = false;
-    for (const TPlayer& player : PlayersOf(ranked, game)) {
-      DrawCells(player, game.GameType, state.settings.SiegAnzeige.IsOff(), y, picRanking);
+    for (const TPlayer* player : PlayersOf(ranked, game)) {
+      DrawCells(*player, game.GameType, state.settings.SiegAnzeige.IsOff(), y, picRanking);
     }
     ++place;
   }
