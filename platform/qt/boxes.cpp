@@ -99,11 +99,10 @@ class PlaceNames : public QStyledItemDelegate {
   QString name_;
 };
 
-/// The column of places is as wide as its longest name.
+/// Adds a place at the side, under a name of its own.
 void AddPlace(QFileDialog& chooser, const QString& folder, const QString& name) {
   auto* places = chooser.findChild<QListView*>("sidebar");
-  auto* columns = chooser.findChild<QSplitter*>("splitter");
-  if (!places || !columns || folder.isEmpty() || !QFileInfo(folder).isDir()) return;
+  if (!places || folder.isEmpty() || !QFileInfo(folder).isDir()) return;
   const QUrl place = QUrl::fromLocalFile(folder);
   QList<QUrl> urls = chooser.sidebarUrls();
   urls.removeAll(place);
@@ -111,6 +110,13 @@ void AddPlace(QFileDialog& chooser, const QString& folder, const QString& name) 
   places->setItemDelegate(new PlaceNames(places, place, name));
   QAbstractItemModel* model = places->model();
   model->setData(model->index(model->rowCount() - 1, 0), name, Qt::AccessibleTextRole);
+}
+
+/// The column of places is as wide as its longest name.
+void FitPlaces(const QFileDialog& chooser) {
+  auto* places = chooser.findChild<QListView*>("sidebar");
+  auto* columns = chooser.findChild<QSplitter*>("splitter");
+  if (!places || !columns) return;
   const int room = places->sizeHintForColumn(0) + 2 * places->frameWidth();
   columns->setSizes({room, chooser.width() - room});
 }
@@ -131,6 +137,7 @@ class Chooser : public QFileDialog {
     setDefaultSuffix(ToQt(dialog.DefaultExt));
     FitColumns(*this);
     AddPlace(*this, ToQt(dialog.SideFolder.string()), ToQt(dialog.SideName));
+    FitPlaces(*this);
     const QString before = ToQt(dialog.FileName);
     if (!before.isEmpty() && QFileInfo(before).dir().exists()) selectFile(before);
   }

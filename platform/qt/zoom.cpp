@@ -22,6 +22,12 @@ int NextSize(int size, bool larger) {
   return next < std::begin(kSizes) || next == std::end(kSizes) ? size : *next;
 }
 
+/// Scroll bars have no menu: it would be in words of the toolkit, which has no catalogue for some languages.
+int ZoomStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                         QStyleHintReturn* answer) const {
+  return hint == SH_ScrollBar_ContextMenu ? 0 : QProxyStyle::styleHint(hint, option, widget, answer);
+}
+
 int ZoomStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   return Zoomed(QProxyStyle::pixelMetric(metric, option, widget));
 }

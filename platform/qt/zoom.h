@@ -26,6 +26,8 @@ class ZoomStyle : public QProxyStyle {
  public:
   ZoomStyle() : QProxyStyle("Fusion") {}
 
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* answer) const override;
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                           const QWidget* widget) const override;
