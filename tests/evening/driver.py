@@ -168,7 +168,7 @@ class WaylandScreen(XScreen):
         return {window: view["name"] for window, view in self._views().items() if view.get("pid") == process.pid}
 
     def has_keyboard(self, window):
-        return self._views()[window]["focused"]
+        return self._views().get(window, {}).get("focused", False)  # it may have closed meanwhile
 
     def force_keyboard(self, window, *keys):
         self.run("swaymsg", f"[con_id={window}] focus")
@@ -176,6 +176,7 @@ class WaylandScreen(XScreen):
 
     def layout(self, name):
         self.run("swaymsg", "input", "*", "xkb_layout", name)
+
 
 class Program:
     """The program as it is shipped, in a folder of its own, and what a player does with it again and again."""
