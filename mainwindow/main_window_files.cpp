@@ -35,7 +35,11 @@ bool MainWindow::ChooseFile(int titleText, std::string filter, bool opens) {
   cmdLS_.DialogTitle = platform::WithoutMnemonic(State.Text(titleText));
   cmdLS_.OpensFile = opens;
   cmdLS_.Objection = nullptr;
-  if (!opens) cmdLS_.Objection = [this](const std::string& path) { return windows::ObjectionToSaving(State, path); };
+  if (!opens) {
+    cmdLS_.Objection = [this](const std::string& path) {
+      return windows::ObjectionToSaving(State, path, !context_.places.Copies().empty());
+    };
+  }
   cmdLS_.SideFolder = opens ? context_.places.Copies() : std::filesystem::path();
   cmdLS_.SideName = State.Text(text::CopiesFolder);
   return services_.ChooseFile(cmdLS_) && !cmdLS_.FileName.empty();

@@ -87,7 +87,7 @@ void F10::PrintGame() {
 void F10::WritePdf(const platform::Page& page) {
   pdfFile_.Filter = "PDF (*.pdf)|*.pdf";
   pdfFile_.DefaultExt = "pdf";
-  pdfFile_.Objection = [this](const std::string& path) { return windows::ObjectionToSaving(state(), path); };
+  pdfFile_.Objection = [this](const std::string& path) { return windows::ObjectionToSaving(state(), path, false); };
   pdfFile_.InitDir = context_.places.FirstFolder().string();
   pdfFile_.DialogTitle = Caption;
   if (!context_.services.ChooseFile(pdfFile_) || pdfFile_.FileName.empty()) return;

@@ -207,9 +207,14 @@ WriteOutcome WriteGame(const path& file, std::string_view bytes, const path& cop
   if (whole.Failure != WriteFailure::NotAllowed || copies.empty()) return whole;
   std::ifstream old = OpenRegularFile(file);
   if (!old.is_open()) return whole;
-  const std::string oldBytes{std::istreambuf_iterator<char>(old), {}};
+  std::string oldBytes;
+  try {
+    oldBytes.assign(std::istreambuf_iterator<char>(old), {});
+  } catch (const std::ios_base::failure&) {  // a disk with a fault
+    return whole;
+  }
   GameCopy copy(copies, std::time(nullptr));
-  return old.bad() || !copy.Write(file.stem().string(), oldBytes) ? whole : WriteInPlace(file, bytes);
+  return copy.Write(file.stem().string(), oldBytes) ? WriteInPlace(file, bytes) : whole;
 }
 
 }  // namespace storage

@@ -21,11 +21,11 @@ int TextOfCause(storage::WriteFailure failure) {
 
 }  // namespace
 
-std::string ObjectionToSaving(const core::State& state, const std::string& path) {
+std::string ObjectionToSaving(const core::State& state, const std::string& path, bool inPlace) {
   const std::filesystem::path folder = std::filesystem::path(path).parent_path();
   std::error_code unknown;
   if (!is_directory(folder, unknown)) return state.Text(core::text::NoSuchFolder) + "\n\n" + folder.string();
-  if (!storage::CanWriteWhole(path) && !storage::CanWriteInPlace(path)) {
+  if (!storage::CanWriteWhole(path) && !(inPlace && storage::CanWriteInPlace(path))) {
     return state.Text(core::text::NotAllowed) + "\n\n" + path;
   }
   return {};

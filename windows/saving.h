@@ -8,8 +8,9 @@
 
 namespace windows {
 
-/// Why no file can be saved under this name, in words of the language; empty if it can.
-std::string ObjectionToSaving(const core::State& state, const std::string& path);
+/// Why no file can be saved under this name, in words of the language; empty if it can. `inPlace`: it may be written
+/// over the one that is there.
+std::string ObjectionToSaving(const core::State& state, const std::string& path, bool inPlace);
 
 /// A text of the language that tells of a failure, the file and the cause, one below the other.
 std::string TextOfFailure(const core::State& state, int failure, const std::string& file,

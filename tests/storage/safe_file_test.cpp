@@ -24,6 +24,7 @@ struct System {
   int Error = 0;                     // kKilled: the process ends there
   std::size_t MostBytes = SIZE_MAX;  // taken by one write
   std::chrono::milliseconds SyncTakes{0};
+  bool ReadsFail = false;
 } g_system;
 
 bool Fails(const std::string& call) {
@@ -52,6 +53,11 @@ extern "C" ssize_t write(int file, const void* bytes, size_t size) {
   return Fails("write")
              ? -1
              : Real<ssize_t(int, const void*, size_t)>("write")(file, bytes, std::min(size, g_system.MostBytes));
+}
+extern "C" ssize_t read(int file, void* bytes, size_t size) {
+  if (!g_system.ReadsFail) return Real<ssize_t(int, void*, size_t)>("read")(file, bytes, size);
+  errno = EIO;
+  return -1;
 }
 extern "C" int fsync(int file) {
   std::this_thread::sleep_for(g_system.SyncTakes);
@@ -117,21 +123,27 @@ TEST_F(SafeFileTest, KilledAtAnyStepOneWholeFileIsThere) {
     waitpid(child, nullptr, 0);
     EXPECT_EQ(Bytes(File), step == std::string("sync folder") ? "new bytes" : "old") << step;
   }
+  std::set<std::string> left = Names();
+  EXPECT_EQ(left.size(), 4U);
+  const auto old = std::filesystem::file_time_type::clock::now() - std::chrono::minutes(11);
+  std::filesystem::last_write_time(Folder / *left.begin(), old);
+  left.erase(left.begin());
   Save("next");
-  EXPECT_THAT(Names(), ElementsAre("game.obg")) << "what the killed ones left is gone";
+  EXPECT_EQ(Names(), left) << "what the killed ones left is gone once it is old";
 }
 
 TEST_F(SafeFileTest, AFileInAFolderThatTakesNoNewOneIsWrittenInPlaceOnceItsOldBytesAreKept) {
   const auto copies = Folder / "copies";
-  for (const bool canKeep : {false, true}) {
+  for (const std::string obstacle : {"read", "folder", ""}) {
     Put(File, "old bytes");
-    if (canKeep)
-      std::filesystem::remove(copies);
-    else
-      Put(copies, "no folder");
+    std::filesystem::remove(copies);
+    if (obstacle == "folder") Put(copies, "no folder");
     g_system = {{}, "rename", 0, EACCES};
-    EXPECT_EQ(storage::WriteGame(File, "new", copies).Failure, canKeep ? WriteFailure::None : WriteFailure::NotAllowed);
-    EXPECT_EQ(Bytes(File), canKeep ? "new" : "old bytes");
+    g_system.ReadsFail = obstacle == "read";
+    const WriteFailure failure = storage::WriteGame(File, "new", copies).Failure;
+    g_system = {};
+    EXPECT_EQ(failure, obstacle.empty() ? WriteFailure::None : WriteFailure::NotAllowed) << obstacle;
+    EXPECT_EQ(Bytes(File), obstacle.empty() ? "new" : "old bytes") << obstacle;
   }
   EXPECT_EQ(Bytes(copies / *Names("copies").begin()), "old bytes");
   EXPECT_THAT(*Names("copies").begin(), testing::EndsWith(" game.obg"));
