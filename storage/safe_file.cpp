@@ -7,7 +7,6 @@
 
 #include <cerrno>
 #include <charconv>
-#include <chrono>
 #include <optional>
 #include <utility>
 
@@ -19,7 +18,6 @@ constexpr int kMostNames = 1000;                      // tried for the new file
 constexpr const char* kNewFilePrefix = ".orvanbeg-";  // the process and a count behind it
 constexpr const char* kNewFileSuffix = ".new";
 constexpr mode_t kRightsOfNewFiles = 0666;
-constexpr auto kAgeOfLeftovers = std::chrono::minutes(10);
 constexpr mode_t kAllRights = 07777;
 
 WriteFailure KindOf(int error) {
@@ -170,16 +168,13 @@ pid_t ProcessOf(std::string_view name) {
   return read.ec == std::errc() && *read.ptr == '-' && process > 0 ? process : 0;
 }
 
-/// New files of processes that are gone. A young one may be that of a process on another machine.
+/// New files of processes that are gone.
 void RemoveLeftovers(const std::filesystem::path& folder) {
-  const auto young = std::filesystem::file_time_type::clock::now() - kAgeOfLeftovers;
   std::error_code unknown;
   for (std::filesystem::directory_iterator found(folder, unknown), end; !unknown && found != end;
        found.increment(unknown)) {
     const pid_t process = ProcessOf(found->path().filename().string());
-    if (process == 0 || kill(process, 0) == 0 || errno != ESRCH) continue;
-    std::error_code gone;
-    if (found->last_write_time(gone) < young && !gone) unlink(found->path().c_str());
+    if (process != 0 && kill(process, 0) != 0 && errno == ESRCH) unlink(found->path().c_str());
   }
 }
 

@@ -30,8 +30,7 @@ struct [[nodiscard]] WriteOutcome {
 /// Writes a new file beside the old one and puts it in its place once all bytes are safe on the disk; the old file's
 /// rights are kept, a link is followed. Success means that all of this is done. After a failure the old file is
 /// whole and nothing else is left, with one exception: where only the folder could not be synced at the very end, the
-/// new file is in place. What a process that was killed in the middle of this has left in the folder is removed ten
-/// minutes later.
+/// new file is in place. What a process that was killed in the middle of this has left in the folder is removed.
 WriteOutcome WriteWhole(const std::filesystem::path& file, std::string_view bytes);
 
 /// The same under a name that nothing bears yet, else the failure is `Taken`, also where two processes try at once.
