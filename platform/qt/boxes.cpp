@@ -23,8 +23,8 @@
 namespace platform::qt {
 namespace {
 
-constexpr int kLeastBoxWidth = 260;  // pixels
-constexpr int kTitleButtons = 120;   // pixels that a title bar's icon and buttons take
+constexpr int kLeastBoxWidth = 260;  // pixels at 100 in 100
+constexpr int kTitleButtons = 120;   // those that a title bar's icon and buttons take
 
 /// The window below a new box: the active one or, between two boxes, the last one that is still visible. Null before
 /// there is any window.
@@ -50,8 +50,9 @@ void Tidy(QMessageBox& box) {
   }
   QFont bold = box.font();
   bold.setBold(true);
-  const int title = QFontMetrics(bold).horizontalAdvance(box.windowTitle()) + kTitleButtons;
-  grid->addItem(new QSpacerItem(std::max(kLeastBoxWidth, title), 0), grid->rowCount(), 0, 1, grid->columnCount());
+  const int title = QFontMetrics(bold).horizontalAdvance(box.windowTitle()) + Zoomed(kTitleButtons);
+  grid->addItem(new QSpacerItem(std::max(Zoomed(kLeastBoxWidth), title), 0), grid->rowCount(), 0, 1,
+                grid->columnCount());
 }
 
 /// From "name|pattern|name|pattern" to the toolkit's filters. "*.*" means all files here, also those without a dot.

@@ -95,10 +95,11 @@ class ComboView : public QComboBox, public ControlView {
   }
   void ShowText(const QString& text) {
     const int cursor = currentText() == text ? lineEdit()->cursorPosition() : static_cast<int>(text.size());
-    setCurrentIndex(findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
-    if (currentText() == text) return;
-    setEditText(text);
-    lineEdit()->setCursorPosition(cursor);
+    const int row = findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    // Each of these forgets what can be undone or is selected.
+    if (row != currentIndex()) setCurrentIndex(row);
+    if (text != currentText()) setEditText(text);
+    if (cursor != lineEdit()->cursorPosition()) lineEdit()->setCursorPosition(cursor);
   }
 
   ComboBox& box_;

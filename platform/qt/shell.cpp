@@ -9,7 +9,8 @@
 #include <QScreen>
 #include <QWheelEvent>
 #include <QWindow>
-#include <utility>
+#include <algorithm>
+#include <iterator>
 
 namespace platform::qt {
 namespace {
@@ -61,6 +62,9 @@ void FollowFocus(QWidget* widget) {
   if (view && view->Model().TakesFocus()) window->Model().SetFocus(view->Model());
 }
 
+/// How long the window system may take to give the focus to a window that was clicked.
+constexpr std::chrono::milliseconds kLateFocus{500};
+
 KeyTracker::Time TimeOf(const QKeyEvent& event) { return KeyTracker::Time(event.timestamp()); }
 
 }  // namespace
@@ -68,6 +72,7 @@ KeyTracker::Time TimeOf(const QKeyEvent& event) { return KeyTracker::Time(event.
 Shell::Shell(Desktop& desktop, Form& mainForm, int size) : desktop_(desktop), mainForm_(mainForm) {
   SetZoom(size_);
   MakeWindow(mainForm_);
+  if (std::find(std::begin(kSizes), std::end(kSizes), size) == std::end(kSizes)) size = kNaturalSize;
   while (!Fits(size) && NextSize(size, false) != size) size = NextSize(size, false);
   if (size != size_) Resize(size);
   for (Form* form : desktop_.Forms()) StartTimers(*form);
@@ -149,7 +154,7 @@ bool Shell::FilterForWindow(FormWindow& window, QEvent& event) {
   if (!IsUserInput(event.type()) || window.Model().AcceptsInput()) return false;
   Form* front = event.type() == QEvent::MouseButtonPress ? desktop_.Front() : nullptr;
   if (front) {
-    calledBack_ = true;
+    calledBack_.setRemainingTime(kLateFocus);
     desktop_.BringToFront(*front);
   }
   return true;
@@ -176,13 +181,21 @@ bool Shell::HandleSizeKey(const QKeyEvent& event) {
   const KeyCode code = CodeOf(event);
   const bool larger = event.key() == Qt::Key_Plus || event.key() == Qt::Key_Equal;
   const bool smaller = event.key() == Qt::Key_Minus || event.key() == Qt::Key_Underscore;
-  const bool natural = code == '0' || code == kKeyNumberPad0;
+  // Without NumLock the pad's key is Insert.
+  const bool natural = code == '0' || (code == kKeyNumberPad0 && event.key() == Qt::Key_0);
   if (!larger && !smaller && !natural) return false;
+  ForgetKeys();
   if (event.type() == QEvent::KeyPress) ChooseSize(natural ? kNaturalSize : NextSize(size_, larger));
   return true;
 }
 
+/// The Ctrl of another size is no key of the form that has the keyboard: its release finds nothing held.
+void Shell::ForgetKeys() {
+  for (Form* form : desktop_.Forms()) form->ForgetKeys();
+}
+
 void Shell::TurnWheel(const QWheelEvent& event) {
+  ForgetKeys();
   wheel_ += event.angleDelta().y();
   if (std::abs(wheel_) < QWheelEvent::DefaultDeltasPerStep) return;
   ChooseSize(NextSize(size_, wheel_ > 0));
@@ -260,9 +273,9 @@ void Shell::FollowActivation(FormWindow& window, QEvent::Type type) {
   if (window.Model().AcceptsInput()) window.Model().ForgetKeys();
 }
 
-/// When a message box or another program gets the keyboard, keys that are down are released there. A compositor may
-/// move the focus to the window that was clicked only after the form in front was activated; then that is activated
-/// again.
+/// When a message box or another program gets the keyboard, keys that are down are released there. The focus may move
+/// to the window that was clicked only after the form in front was activated; then that is activated again. Compositors
+/// also give it to a locked window by its title bar or the task bar, which the program does not see.
 void Shell::FollowFocusWindow(QWindow* window) {
   FormWindow* form = window ? FormWindowOf(window) : nullptr;
   if (!form) {
@@ -271,7 +284,7 @@ void Shell::FollowFocusWindow(QWindow* window) {
   }
   if (QWidget* box = QApplication::activeModalWidget()) return box->activateWindow();
   Form* front = form->Model().AcceptsInput() ? nullptr : desktop_.Front();
-  if (front && std::exchange(calledBack_, false)) BringToFront(*front);
+  if (front && (OnWayland() || !calledBack_.hasExpired())) BringToFront(*front);
 }
 
 void Shell::BringToFront(Form& form) {

@@ -2,6 +2,7 @@
 // the routing of the model.
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QEvent>
 #include <QObject>
 #include <QPointer>
@@ -52,6 +53,7 @@ class Shell : public QObject {
   bool FilterForWindow(FormWindow& window, QEvent& event);
   bool HandleKey(FormWindow& window, QKeyEvent& event);
   bool HandleSizeKey(const QKeyEvent& event);
+  void ForgetKeys();
   void TurnWheel(const QWheelEvent& event);
   void ChooseSize(int size);
   void Resize(int size);
@@ -66,7 +68,7 @@ class Shell : public QObject {
   Desktop& desktop_;
   Form& mainForm_;
   std::map<const Form*, std::unique_ptr<FormWindow>> windows_;
-  bool calledBack_ = false;  ///< by a click on a locked window
+  QDeadlineTimer calledBack_;  ///< until when a locked window that gets the focus was clicked
   int size_ = kNaturalSize;
   int wheel_ = 0;  ///< what it has turned since the last step, in the toolkit's units
   KeyTracker keys_{OnWayland()};

@@ -17,9 +17,10 @@ double Zoom() { return zoom; }
 void SetZoom(int size) { zoom = size / static_cast<double>(kNaturalSize); }
 
 int NextSize(int size, bool larger) {
-  const int* next = larger ? std::upper_bound(std::begin(kSizes), std::end(kSizes), size)
-                           : std::lower_bound(std::begin(kSizes), std::end(kSizes), size) - 1;
-  return next < std::begin(kSizes) || next == std::end(kSizes) ? size : *next;
+  const auto smallest = std::begin(kSizes), end = std::end(kSizes);
+  const auto next = larger ? std::upper_bound(smallest, end, size) : std::lower_bound(smallest, end, size);
+  if (next == (larger ? end : smallest)) return size;
+  return larger ? *next : *std::prev(next);
 }
 
 /// Scroll bars have no menu: it would be in words of the toolkit, which has no catalogue for some languages.

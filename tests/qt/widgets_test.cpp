@@ -35,6 +35,12 @@ TEST_F(Widgets, AListGoesOnFromTheEntryThatItShows) {
   WidgetOf(Window.F8.comSelectLang).setFocus();
   EXPECT_EQ(picks, 0) << "typed text is no pick, nor when the field is left";
   EXPECT_EQ(list.currentIndex(), 0);
+  list.lineEdit()->cursorWordBackward(false);
+  for (const Qt::Key key : {Qt::Key_X, Qt::Key_Y, Qt::Key_Backspace}) QTest::keyClick(&list, key);
+  EXPECT_TRUE(list.lineEdit()->isUndoAvailable());
+  QTest::keyClick(&list, Qt::Key_Backspace);
+  EXPECT_EQ(list.currentIndex(), 0);
+  EXPECT_EQ(list.lineEdit()->cursorPosition(), 0);
 }
 
 TEST_F(Widgets, ALongPressIsTheSecondButton) {
@@ -59,12 +65,38 @@ TEST_F(Widgets, GrowByKeysAndWheelAsFarAsTheScreenHasRoomAndKeepTheirPlaces) {
   EXPECT_EQ(WindowOf(Window.F1).width(), qRound(633 * 1.25));
   Click(Window.F1.picWurfel(0));
   EXPECT_EQ(WidgetOf(Window.F7.cmdOK).font().pixelSize(), 13);
+  Type(Window.F7, Qt::Key_Insert, Qt::ControlModifier | Qt::KeypadModifier);
   const QPoint at(5, 5);
   QWheelEvent down(at, at, {}, {0, -120}, {}, Qt::ControlModifier, Qt::NoScrollPhase, false);
   QApplication::sendEvent(WindowOf(Window.F7).windowHandle(), &down);
   Type(Window.F7, Qt::Key_Minus, Qt::ControlModifier | Qt::KeypadModifier);
   Type(Window.F7, Qt::Key_0, Qt::ControlModifier);
   EXPECT_EQ(sizes, (std::vector<int>{125, 100, 90, 100}));
+}
+
+TEST_F(Widgets, TheCtrlOfAnotherSizeIsNoKeyOfTheForm) {
+  Type(Window.F1, Qt::Key_F1, Qt::ShiftModifier);
+  Window.F5.SetFocus(Window.F5.txtData(3));  // the longest road, which any key turns over
+  QWindow* window = WindowOf(Window.F5).windowHandle();
+  QWheelEvent wheel({}, {}, {}, {0, -120}, {}, Qt::ControlModifier, Qt::NoScrollPhase, false);
+  for (const bool byWheel : {false, true}) {
+    QTest::keyPress(window, Qt::Key_Control);
+    if (byWheel) QApplication::sendEvent(WindowOf(Window.F1).windowHandle(), &wheel);
+    if (!byWheel) QTest::keyClick(window, Qt::Key_Plus, Qt::ControlModifier);
+    QTest::keyRelease(window, Qt::Key_Control);
+    EXPECT_FALSE(Window.State.game.Players[1].LongestRoad);
+  }
+  Type(Window.F5, Qt::Key_Control);
+  EXPECT_TRUE(Window.State.game.Players[1].LongestRoad);
+}
+
+TEST(StartingSize, IsOneOfTheSizesThatFitsOnTheScreen) {
+  for (const auto& [size, taken] : {std::pair(300, 125), std::pair(117, 100)}) {
+    tests::ScriptedServices services;
+    mainwindow::MainWindow window(services);
+    platform::qt::Shell shell(window.Desktop, window.F1, size);
+    EXPECT_EQ(qRound(100 * platform::qt::Zoom()), taken);
+  }
 }
 
 TEST_F(Widgets, AssistiveToolsPressPicturesAndSetTexts) {

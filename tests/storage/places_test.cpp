@@ -3,6 +3,7 @@
 
 #include "../../core/game_state.h"
 #include "../../storage/settings_file.h"
+#include "../../storage/view_file.h"
 #include "temporary_folder.h"
 
 namespace tests {
@@ -42,6 +43,18 @@ TEST_F(PlacesTest, AnInstalledProgramWritesNothingBesideItAndTakesTheUsersLangua
   Put(program / "language.ini", "");
   EXPECT_EQ(Now().LanguageFile(), program / "language.ini") << "not installed";
   EXPECT_EQ(Now().FirstFolder(), program);
+}
+
+TEST_F(PlacesTest, TheSizeOfTheWindowsIsKept) {
+  EXPECT_EQ(storage::ReadViewSize(Now().ViewFile()), 100) << "no file";
+  EXPECT_TRUE(storage::WriteViewSize(Now().ViewFile(), 150));
+  EXPECT_EQ(Bytes(Now().ViewFile()), "150\r\n");
+  const std::pair<const char*, int> rows[] = {{"150\r\n", 150}, {"", 100},     {"x", 100},
+                                              {"0", 100},       {"1001", 100}, {"99999999999", 100}};
+  for (const auto& [text, size] : rows) {
+    Put(Now().ViewFile(), text);
+    EXPECT_EQ(storage::ReadViewSize(Now().ViewFile()), size) << text;
+  }
 }
 
 }  // namespace
