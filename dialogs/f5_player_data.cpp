@@ -179,8 +179,9 @@ void F5::Step(int row, int by) {
   ShowValue(row);
 }
 
-/// Name and numbers are taken at once, whether typed, pasted or composed.
+/// Name and numbers are taken at once, whether typed, pasted or composed; a flag shows nothing but its value.
 void F5::F5_txtData_Change(int row) {
+  if (std::holds_alternative<Flag>(kTable[row].About)) return ShowValue(row);
   const auto take = [&](const auto& about) { about.Take(Player(), txtData(row).Text.Get()); };
   std::visit(take, kTable[row].About);
 }

@@ -15,6 +15,7 @@ using windows::BlackDie;
 using windows::EventDie;
 using windows::RedDie;
 using windows::Repeat;
+using windows::SpokenDie;
 
 constexpr int kPitch = 600;  // twips from one choice to the next, and from one row to the next
 
@@ -91,21 +92,15 @@ void F7::ShowHotkeys() {
   }
 }
 
-std::string F7::Spoken(int row, int face) {
-  if (row == kEventRow) return face == 0 ? "-" : state().Text(windows::TextOfEventFace(face));
-  const std::string& die = state().Text(row == kBlackRow ? text::BlackDie : text::RedDie);
-  return die + ": " + (face == 0 ? "-" : std::to_string(face));
-}
-
 void F7::SetCaptions() {
   Caption = state().Text(text::EnterRoll);
   cmdNoOK.Caption = state().Text(text::Cancel);
   cmdOK.Caption = state().Text(text::Ok);
   for (int i = 0; i < core::kDieFaces; ++i) {
-    picSW(i).SpokenName = Spoken(kBlackRow, i + 1);
-    picRW(i).SpokenName = Spoken(kRedRow, i + 1);
+    picSW(i).SpokenName = SpokenDie(state(), kBlackRow, i + 1);
+    picRW(i).SpokenName = SpokenDie(state(), kRedRow, i + 1);
   }
-  for (int i = 0; i < core::kEventFaces; ++i) picEW(i).SpokenName = Spoken(kEventRow, i + 1);
+  for (int i = 0; i < core::kEventFaces; ++i) picEW(i).SpokenName = SpokenDie(state(), kEventRow, i + 1);
 }
 
 /// Opens the dialog with what is entered so far.
@@ -121,9 +116,9 @@ void F7::ShowChosen() {
   picGewurfelt(kBlackRow).Image = BlackDie(entry.Die1);
   picGewurfelt(kRedRow).Image = RedDie(entry.Die2);
   picGewurfelt(kEventRow).Image = EventDie(entry.EventDie);
-  picGewurfelt(kBlackRow).SpokenName = Spoken(kBlackRow, entry.Die1);
-  picGewurfelt(kRedRow).SpokenName = Spoken(kRedRow, entry.Die2);
-  picGewurfelt(kEventRow).SpokenName = Spoken(kEventRow, entry.EventDie);
+  picGewurfelt(kBlackRow).SpokenName = SpokenDie(state(), kBlackRow, entry.Die1);
+  picGewurfelt(kRedRow).SpokenName = SpokenDie(state(), kRedRow, entry.Die2);
+  picGewurfelt(kEventRow).SpokenName = SpokenDie(state(), kEventRow, entry.EventDie);
   cmdOK.Enabled = core::EntryComplete(state());
 }
 

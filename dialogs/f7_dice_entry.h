@@ -34,7 +34,6 @@ class F7 : public windows::Dialog {
  private:
   void Start();
   void ShowEventRow(bool visible);
-  std::string Spoken(int row, int face);
   void ShowChosen();
   void F7_Form_KeyUp(int keyCode);
   void F7_picSW_MouseUp(int index);

@@ -61,7 +61,6 @@ void F1::ShowBlankDice() {
   picWurfel(0).Image = windows::BlackDie(0);
   picWurfel(1).Image = windows::RedDie(0);
   picWurfel(2).Image = windows::EventDie(0);
-  for (int i = picWurfel.First(); i <= picWurfel.Last(); ++i) picWurfel(i).SpokenName = std::string();
 }
 
 }  // namespace mainwindow

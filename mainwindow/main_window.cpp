@@ -101,6 +101,7 @@ void MainWindow::SetCaptions() {
   for (int i = F1.picWurfel.First(); i <= F1.picWurfel.Last(); ++i) {
     F1.picWurfel(i).ToolTipText = State.Text(text::DiceToolTip);
   }
+  NameDice(namedFaces_);
   F1.picInfoLine.ToolTipText = State.Text(text::LastSixToolTip);
   for (windows::Dialog* dialog : Dialogs()) dialog->SetCaptions();
 }
@@ -132,12 +133,16 @@ void MainWindow::ShowPlayerPanels() {
   for (int seat = 1; seat <= core::kSeats; ++seat) F1.picSP(seat - 1).Visible = State.game.Players[seat].Active;
 }
 
+void MainWindow::NameDice(std::array<int, 3> faces) {
+  namedFaces_ = faces;
+  for (int row = 0; row < 3; ++row) {
+    F1.picWurfel(row).SpokenName = windows::SpokenDie(State, row, faces[static_cast<std::size_t>(row)]);
+  }
+}
+
 void MainWindow::ShowRolledDice() {
   const core::Entry& entry = State.entry;
-  F1.picWurfel(0).SpokenName = std::to_string(entry.Die1);
-  F1.picWurfel(1).SpokenName = std::to_string(entry.Die2);
-  F1.picWurfel(2).SpokenName =
-      entry.EventDie == 0 ? std::string() : State.Text(windows::TextOfEventFace(entry.EventDie));
+  NameDice({entry.Die1, entry.Die2, entry.EventDie});
   F1.picWurfel(0).Image = windows::BlackDie(entry.Die1);
   F1.picWurfel(1).Image = windows::RedDie(entry.Die2);
   if (State.game.GameType == core::kFirstExpansion) F1.picWurfel(2).Image = windows::EventDie(entry.EventDie);
@@ -147,6 +152,7 @@ void MainWindow::ShowRolledDice() {
 void MainWindow::ShowNewGame() {
   keeper_.BeginGame();
   F1.ShowBlankDice();
+  NameDice({});
   ShowEventDie();
   if (State.settings.AutoHG.IsOn()) F8.ShowTheme(core::ThemeOf(State.game));
   ShowWhetherClocksRun(State, services_, F1);

@@ -2,6 +2,8 @@
 // of the rules. Games, settings and languages are read and written in main_window_files.cpp.
 #pragma once
 
+#include <array>
+
 #include "../core/game_state.h"
 #include "../core/rolls.h"
 #include "../core/screen.h"
@@ -92,6 +94,8 @@ class MainWindow : public core::Screen, private storage::GameFileEvents {
   void CentreDialogs();
   void SetCaptions();
   void ShowNewGame();
+  /// As they are spoken: black, red, event; 0 is a blank one.
+  void NameDice(std::array<int, 3> faces);
   std::vector<windows::Dialog*> Dialogs();
 
   void WireInput();
@@ -110,6 +114,7 @@ class MainWindow : public core::Screen, private storage::GameFileEvents {
   void LoadSettings();
   void SaveSettings();
   void LoadGame();
+  void LeaveCopies();
   void ShowLoadedGame();
   bool ChooseFile(int titleText, std::string filter, bool opens);
 
@@ -122,6 +127,7 @@ class MainWindow : public core::Screen, private storage::GameFileEvents {
   platform::Services& services_;
   platform::FileDialog cmdLS_;  ///< keeps the name chosen last, in either direction
   storage::EveningKeeper keeper_{State};
+  std::array<int, 3> namedFaces_{};
 };
 
 }  // namespace mainwindow

@@ -58,26 +58,35 @@ void MainWindow::F1_mnuFileLoad_Click() {
 }
 
 void MainWindow::LoadGame() {
-  const std::filesystem::path chosen = cmdLS_.FileName;
-  // A copy goes in time; what is made of it is saved among the user's own files.
-  std::error_code unknown;
-  const storage::Places& places = context_.places;
-  if (std::filesystem::equivalent(chosen.parent_path(), places.Copies(), unknown)) {
-    cmdLS_.FileName = (places.FirstFolder() / chosen.filename()).string();
+  const std::string chosen = cmdLS_.FileName;
+  std::ifstream file = storage::OpenRegularFile(chosen);
+  if (!file.is_open()) {
+    services_.MessageBox(windows::TextOfUnopened(State, text::GameNotRead, chosen));
+    return;
   }
   keeper_.Look();
-  std::ifstream file = storage::OpenRegularFile(chosen);
-  auto outcome = storage::GameFileOutcome::Stopped;
-  if (file.is_open()) {
-    outcome = storage::ReadGame(file, State, *this);
-    if (outcome != storage::GameFileOutcome::NotAGame) ShowLoadedGame();
+  const std::string before = storage::GameFileText(State);
+  const auto outcome = storage::ReadGame(file, State, *this);
+  if (outcome == storage::GameFileOutcome::NotAGame) return;
+  if (storage::GameFileText(State) != before) keeper_.BeginGame();
+  ShowLoadedGame();
+  if (outcome == storage::GameFileOutcome::Whole) {
+    LeaveCopies();
+  } else {
+    services_.MessageBox(State.Text(text::GameNotRead) + "\n" + chosen);
   }
-  if (outcome != storage::GameFileOutcome::Stopped) return;
-  services_.MessageBox(State.Text(text::GameNotRead) + "\n" + chosen.string());
+}
+
+/// A copy goes in time; what is made of it is saved among the user's own files.
+void MainWindow::LeaveCopies() {
+  std::error_code unknown;
+  const storage::Places& places = context_.places;
+  const std::filesystem::path loaded = cmdLS_.FileName;
+  if (!std::filesystem::equivalent(loaded.parent_path(), places.Copies(), unknown)) return;
+  cmdLS_.FileName = (places.FirstFolder() / loaded.filename()).string();
 }
 
 void MainWindow::ShowLoadedGame() {
-  keeper_.BeginGame();
   ShowEventDie();
   ShowPlayerPanels();
   core::CalcPoints(State, *this);

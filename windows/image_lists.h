@@ -1,6 +1,9 @@
 // The pictures that forms share: image lists addressed from 1, and single drawings.
 #pragma once
 
+#include <string>
+
+#include "../core/game_state.h"
 #include "../core/standing.h"
 #include "../core/texts.h"
 #include "../platform/picture.h"
@@ -26,6 +29,12 @@ inline platform::Picture BlackDie(int face) { return imlW.Image(face > 0 ? kFirs
 inline platform::Picture EventDie(int face) { return imlW.Image(face > 0 ? kFirstEventFace - 1 + face : kBlankGrey); }
 /// The number of the text that names a face of the event die, 1 to 4.
 constexpr int TextOfEventFace(int face) { return core::text::Politics - 1 + face; }
+/// How a die of a row, 0 black, 1 red, 2 event, is spoken with a face.
+inline std::string SpokenDie(const core::State& state, int row, int face) {
+  if (row == 2) return face == 0 ? "-" : state.Text(TextOfEventFace(face));
+  return state.Text(row == 0 ? core::text::BlackDie : core::text::RedDie) + ": " +
+         (face == 0 ? "-" : std::to_string(face));
+}
 
 /// The symbols of all that a player holds, by `core::Symbol`.
 inline constexpr platform::ImageList imlIcons{"imlIcons", 11, 16};

@@ -36,4 +36,14 @@ std::string TextOfFailure(const core::State& state, int failure, const std::stri
   return state.Text(failure) + "\n" + file + "\n\n" + state.Text(TextOfCause(outcome.Failure));
 }
 
+std::string TextOfUnopened(const core::State& state, int failure, const std::string& file) {
+  std::error_code unknown;
+  const auto found = std::filesystem::status(file, unknown);
+  const auto folder = std::filesystem::status(std::filesystem::path(file).parent_path(), unknown);
+  storage::WriteOutcome cause;
+  if (folder.type() == std::filesystem::file_type::not_found) cause.Failure = storage::WriteFailure::NoSuchFolder;
+  if (exists(found) && !is_regular_file(found)) cause.Failure = storage::WriteFailure::NotAFile;
+  return cause ? state.Text(failure) + "\n" + file : TextOfFailure(state, failure, file, cause);
+}
+
 }  // namespace windows

@@ -1,4 +1,4 @@
-// What every dialog that saves a file says of a place where that is not possible.
+// What the program says of a file that it cannot save or open.
 #pragma once
 
 #include <string>
@@ -15,5 +15,8 @@ std::string ObjectionToSaving(const core::State& state, const std::string& path,
 /// A text of the language that tells of a failure, the file and the cause, one below the other.
 std::string TextOfFailure(const core::State& state, int failure, const std::string& file,
                           const storage::WriteOutcome& outcome);
+
+/// The same of a file that cannot be opened for reading; the cause only where a text of the language tells it.
+std::string TextOfUnopened(const core::State& state, int failure, const std::string& file);
 
 }  // namespace windows

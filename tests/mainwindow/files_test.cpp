@@ -65,8 +65,17 @@ TEST_F(FilesTest, WhatChangesTheGameIsKeptAtOnceAndNothingElse) {
       {"new game", {begin}, 1},
       {"new game after a roll", {roll, begin}, 2},
       {"load", {choose("mnuFileLoad")}, 1},
+      {"load of an empty file after a roll",
+       {roll,
+        [&](MainWindow& fresh) {
+          services.ChosenFile = Folder / "empty.obg";
+          choose("mnuFileLoad")(fresh);
+          services.ChosenFile = File;
+        }},
+       1},
       {"clocks", {choose("mnuExtraClock"), tick}, 0},
       {"windows", {choose("mnuExtraZS"), choose("mnuFileSaveAs"), choose("mnuExtraSettings"), tick}, 0}};
+  Put(Folder / "empty.obg", "");
   game.GameTitle = "Abend";
   Choose("mnuFileSaveAs");
   services.State = Folder / "state";

@@ -68,6 +68,10 @@ TEST_F(Input, TextCountsByWhateverWayItCame) {
   QApplication::sendEvent(&WidgetOf(Window.F5.txtData(0)), &composed);
   auto* spoken = QAccessible::queryAccessibleInterface(&WidgetOf(Window.F5.txtData(1)));
   spoken->setText(QAccessible::Value, "7");
+  auto& flag = static_cast<QLineEdit&>(WidgetOf(Window.F5.txtData(3)));
+  const QString value = flag.text();
+  flag.insert("x");
+  EXPECT_EQ(flag.text(), value) << "that of a flag";
   Type(Window.F5, Qt::Key_Return);
   EXPECT_EQ(Window.State.game.Players[1].Name, "José");
   EXPECT_EQ(Window.State.game.Players[1].Settlements, 7);
