@@ -16,6 +16,7 @@
 #include "../../platform/mnemonic.h"
 #include "../../platform/qt/convert.h"
 #include "../../platform/qt/qt_services.h"
+#include "../../printing/game_report.h"
 #include "real_windows.h"
 
 namespace {
@@ -109,16 +110,18 @@ QStringList Said(QWidget& window) {
   return said;
 }
 
-/// What the model of a form says and draws.
+void AddDrawn(const Surface& surface, QStringList& said) {
+  for (const platform::DrawingStep& step : surface.Steps()) {
+    if (const auto* text = std::get_if<TextStep>(&step)) said += ToQt(text->Text);
+  }
+}
+
+/// What the controls of a form say and draw.
 void AddSaid(const std::vector<Control*>& controls, QStringList& said) {
   for (Control* control : controls) {
     AddSaid(control->Controls(), said);
     said += {ToQt(control->ToolTipText.Get()), ToQt(control->SpokenName.Get())};
-    const auto* picture = dynamic_cast<platform::PictureBox*>(control);
-    if (!picture) continue;
-    for (const platform::DrawingStep& step : picture->Drawing.Steps()) {
-      if (const auto* text = std::get_if<TextStep>(&step)) said += ToQt(text->Text);
-    }
+    if (const auto* picture = dynamic_cast<platform::PictureBox*>(control)) AddDrawn(picture->Drawing, said);
   }
 }
 
@@ -246,12 +249,17 @@ TEST_F(RoomForTexts, NoWindowOrBoxSaysAWordOfAnotherLanguage) {
     real.Speak(Services.Words);
     for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();  // by application and window to the menus
     OpenAllWindows();
+    Window.F1_timSpielzeit_Timer();
     QStringList said = SaidInBoxes();
     for (platform::Form* form : Window.Desktop.Forms()) {
       AddSaid(form->Controls(), said);
+      AddDrawn(form->Drawing, said);
       if (QWidget* window = Shell.WindowOf(*form)) said += Said(*window);
     }
     said += SaidByToolkit(real);
+    Surface page;
+    printing::DrawGameReport(Window.State, ",", page);
+    AddDrawn(page, said);
     const QSet<QString> own = OwnWords();
     for (const QString& text : said) {
       for (const QString& word : WordsOf(text)) {
