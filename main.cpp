@@ -3,7 +3,6 @@
 #include "platform/qt/application.h"
 #include "platform/qt/qt_services.h"
 #include "platform/qt/shell.h"
-#include "storage/places.h"
 #include "storage/view_file.h"
 #include "windows/image_lists.h"
 
@@ -12,7 +11,7 @@ int main(int, char** arguments) {
       arguments[0], {"Orvan Begleiter", "orvanbeg", windows::kProgramIcon, windows::kSmallProgramIcon});
   platform::qt::QtServices services({ORVANBEG_VERSION_MAJOR, ORVANBEG_VERSION_MINOR, ORVANBEG_VERSION_REVISION});
   mainwindow::MainWindow window(services);
-  const storage::Places places(services.ProgramFolder(), services.ConfigurationFolder(), services.DocumentsFolder());
+  const storage::Places& places = window.Places();
   platform::qt::Shell shell(window.Desktop, window.F1, storage::ReadViewSize(places.ViewFile()));
   shell.OnResize = [&places](int size) { storage::WriteViewSize(places.ViewFile(), size); };
   if (window.Load() != mainwindow::Started::Yes) return 1;

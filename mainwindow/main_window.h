@@ -38,6 +38,9 @@ class MainWindow : public core::Screen, private storage::GameFileEvents {
   /// been told and the process has to end with an error.
   Started Load();
 
+  /// Where this program's files are.
+  const storage::Places& Places() const { return places_; }
+
   core::State State;
   platform::Desktop Desktop;
   mainwindow::F1 F1;

@@ -49,7 +49,9 @@ class Form : public Container {
   std::vector<Timer*> Timers;
   std::optional<Colour> Ground;  ///< colour around the background; none: that of the desktop
   int MenuBarHeight = 0;         ///< twips that a menu bar adds above the client area
-  int FrameWidth = 0;            ///< twips that the window system adds; 0 before it has reported them
+  /// Twips that the window system adds; 0 before it has reported them. They are the same at each size of the windows,
+  /// so that what is drawn by them keeps its place when the window grows.
+  int FrameWidth = 0;
   int FrameHeight = 0;
   FormView* View = nullptr;
 

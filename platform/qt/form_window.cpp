@@ -67,15 +67,19 @@ void FormWindow::Rescale() {
   for (ControlView* view : std::as_const(views_)) view->Rescale();
   client_->RescaleDrawing();
   FitClient();
-  if (isVisible()) KeepOnScreen();
+  KeepOnScreen();
 }
 
 void FormWindow::KeepOnScreen() {
-  const QRect screenRoom = screen()->availableGeometry();
-  const QRect whole = frameGeometry();
-  const QPoint corner(std::min(whole.left(), screenRoom.right() + 1 - whole.width()),
-                      std::min(whole.top(), screenRoom.bottom() + 1 - whole.height()));
-  if (corner != whole.topLeft()) move(std::max(corner.x(), screenRoom.left()), std::max(corner.y(), screenRoom.top()));
+  if (!isVisible() || OnWayland()) return;
+  const QRect room = screen()->availableGeometry();
+  QRect whole = frameGeometry();
+  // A dialog that has just been shown gets its frame later; it is like the main window's.
+  if (parentWidget() && whole == geometry())
+    whole.setSize(size() + parentWidget()->frameGeometry().size() - parentWidget()->size());
+  const QPoint corner(std::max(std::min(whole.left(), room.right() + 1 - whole.width()), room.left()),
+                      std::max(std::min(whole.top(), room.bottom() + 1 - whole.height()), room.top()));
+  if (corner != whole.topLeft()) move(corner);
 }
 
 void FormWindow::MakeViews(const Control& container, QWidget* parent) {
@@ -156,6 +160,7 @@ void FormWindow::FollowVisible() {
     placed_ = !alone;
   }
   show();
+  KeepOnScreen();
   raise();
   activateWindow();
 }

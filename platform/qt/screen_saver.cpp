@@ -24,8 +24,9 @@ void ScreenSaver::KeepAway(bool away, const std::string& reason) {
 }
 
 void ScreenSaver::SendRequest() {
-  if (asking_ || wanted_ == (inhibited_ || lock_.isValid())) return;
-  wanted_ ? Inhibit() : UnInhibit();
+  if (asking_) return;
+  if (!wanted_ || reason_ != asked_) UnInhibit();
+  if (wanted_ && !inhibited_ && !lock_.isValid()) Inhibit();
 }
 
 /// Takes the answer when it comes, an empty one where there is no bus.
@@ -40,7 +41,8 @@ void ScreenSaver::Ask(const QDBusConnection& bus, const QDBusMessage& call, cons
 }
 
 void ScreenSaver::Inhibit() {
-  const auto call = CallOf("Inhibit") << QCoreApplication::applicationName() << reason_;
+  asked_ = reason_;
+  const auto call = CallOf("Inhibit") << QCoreApplication::applicationName() << asked_;
   Ask(QDBusConnection::sessionBus(), call, [this](const QDBusMessage& answer) {
     const QDBusReply<uint> number = answer;
     if (!number.isValid()) return InhibitIdle();
@@ -55,7 +57,7 @@ void ScreenSaver::Inhibit() {
 void ScreenSaver::InhibitIdle() {
   const auto call = QDBusMessage::createMethodCall("org.freedesktop.login1", "/org/freedesktop/login1",
                                                    "org.freedesktop.login1.Manager", "Inhibit")
-                    << "idle" << QCoreApplication::applicationName() << reason_ << "block";
+                    << "idle" << QCoreApplication::applicationName() << asked_ << "block";
   Ask(QDBusConnection::systemBus(), call, [this](const QDBusMessage& answer) {
     const QDBusReply<QDBusUnixFileDescriptor> lock = answer;
     asking_ = false;

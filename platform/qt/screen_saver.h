@@ -18,8 +18,8 @@ class ScreenSaver : private QObject {
   /// Lets the screen go dark again.
   ~ScreenSaver() override { KeepAway(false, {}); }
 
-  /// Keeps the screen on, or lets it go dark again. Desktops show the reason. The bus is not used before the first call
-  /// that keeps it on.
+  /// Keeps the screen on, or lets it go dark again. Desktops show the reason; another one is asked for anew. The bus is
+  /// not used before the first call that keeps it on.
   void KeepAway(bool away, const std::string& reason);
 
  private:
@@ -33,6 +33,7 @@ class ScreenSaver : private QObject {
 
   bool wanted_ = false;
   QString reason_;
+  QString asked_;                  ///< the reason that was given last
   bool asking_ = false;            ///< waiting for an answer
   std::optional<uint> inhibited_;  ///< the service's number for the request
   QDBusUnixFileDescriptor lock_;   ///< holds the screen as long as it is open

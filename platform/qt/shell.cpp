@@ -78,12 +78,16 @@ Shell::Shell(Desktop& desktop, Form& mainForm, int size) : desktop_(desktop), ma
   for (Form* form : desktop_.Forms()) StartTimers(*form);
   desktop_.OnChange = [this](Form& form, Aspect aspect) { FormChanged(form, aspect); };
   qApp->installEventFilter(this);
+  chosen_.setSingleShot(true);
+  chosen_.setInterval(std::chrono::seconds(1));
+  connect(&chosen_, &QTimer::timeout, this, [this] { OnResize(size_); });
   connect(qApp, &QApplication::focusChanged, this, [](QWidget*, QWidget* now) { FollowFocus(now); });
   connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](QWindow* window) { FollowFocusWindow(window); });
 }
 
 Shell::~Shell() {
   qApp->removeEventFilter(this);
+  if (chosen_.isActive()) OnResize(size_);
   desktop_.OnChange = nullptr;
   for (Form* form : desktop_.Forms()) {
     for (Timer* timer : form->Timers) timer->OnChange = nullptr;
@@ -205,7 +209,7 @@ void Shell::TurnWheel(const QWheelEvent& event) {
 void Shell::ChooseSize(int size) {
   if (size == size_ || !Fits(size)) return;
   Resize(size);
-  if (OnResize) OnResize(size);
+  if (OnResize) chosen_.start();
 }
 
 void Shell::Resize(int size) {

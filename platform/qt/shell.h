@@ -32,7 +32,7 @@ class Shell : public QObject {
   /// The window of a form; null before it was first shown.
   FormWindow* WindowOf(const Form& form) const;
 
-  /// Called when the user has chosen another size of windows, in 100.
+  /// Called with the size of windows, in 100, that the user has chosen and kept for a second, or at the end.
   std::function<void(int size)> OnResize;
 
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -70,6 +70,7 @@ class Shell : public QObject {
   std::map<const Form*, std::unique_ptr<FormWindow>> windows_;
   QDeadlineTimer calledBack_;  ///< until when a locked window that gets the focus was clicked
   int size_ = kNaturalSize;
+  QTimer chosen_;  ///< runs until OnResize is told
   int wheel_ = 0;  ///< what it has turned since the last step, in the toolkit's units
   KeyTracker keys_{OnWayland()};
   std::vector<WaitingRelease> waiting_;

@@ -54,6 +54,14 @@ TEST_F(Lock, ADialogOpensOverTheMainWindowWhereItStandsNow) {
   Window.F7.PrepareDiceDialog();
   const QPoint off = WindowOf(Window.F7).frameGeometry().center() - WindowOf(Window.F1).frameGeometry().center();
   EXPECT_LE(off.manhattanLength(), 40);
+  WindowOf(Window.F7).move(-50, 700);
+  WindowOf(Window.F1).move(500, -400);
+  Window.F7.PressCloseBox();
+  Window.F7.PrepareDiceDialog();
+  Window.F8.OpenSettings();
+  for (const platform::Form* dialog :
+       {static_cast<platform::Form*>(&Window.F7), static_cast<platform::Form*>(&Window.F8)})
+    EXPECT_TRUE(WindowOf(*dialog).screen()->availableGeometry().contains(WindowOf(*dialog).frameGeometry()));
 }
 
 }  // namespace

@@ -57,11 +57,11 @@ TEST(ScreenSaver, IsKeptAwayWhileWantedEvenIfThatChangesBeforeTheAnswer) {
     platform::qt::ScreenSaver screenSaver;
     for (const bool away : {false, true, true, false}) screenSaver.KeepAway(away, "why");
     EXPECT_TRUE(QTest::qWaitFor([&] { return desktop.Calls == QStringList{kAsked, "UnInhibit,41"}; }));
-    screenSaver.KeepAway(true, "why");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return desktop.Calls.size() == 3; }));
+    for (const char* reason : {"why", "warum"}) screenSaver.KeepAway(true, reason);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return desktop.Calls.size() == 5; }));
     QTest::qWait(50);  // for the answer
   }
-  const QStringList all{kAsked, "UnInhibit,41", kAsked, "UnInhibit,43"};
+  const QStringList all{kAsked, "UnInhibit,41", kAsked, "UnInhibit,43", "Inhibit,qt_tests,warum", "UnInhibit,45"};
   EXPECT_TRUE(QTest::qWaitFor([&] { return desktop.Calls == all; }));
   bus.unregisterService("org.freedesktop.ScreenSaver");
   ASSERT_TRUE(bus.registerService("org.freedesktop.login1"));

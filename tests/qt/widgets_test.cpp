@@ -60,17 +60,21 @@ TEST_F(Widgets, ALongPressIsTheSecondButton) {
 
 TEST_F(Widgets, GrowByKeysAndWheelAsFarAsTheScreenHasRoomAndKeepTheirPlaces) {
   std::vector<int> sizes;
-  Shell.OnResize = [&sizes](int size) { sizes.push_back(size); };
+  const auto note = [&sizes] { sizes.push_back(qRound(100 * platform::qt::Zoom())); };
   for (int i = 0; i < 2; ++i) Type(Window.F1, Qt::Key_Plus, Qt::ControlModifier);  // 150 would leave the screen
   EXPECT_EQ(WindowOf(Window.F1).width(), qRound(633 * 1.25));
   Click(Window.F1.picWurfel(0));
   EXPECT_EQ(WidgetOf(Window.F7.cmdOK).font().pixelSize(), 13);
   Type(Window.F7, Qt::Key_Insert, Qt::ControlModifier | Qt::KeypadModifier);
+  note();
   const QPoint at(5, 5);
   QWheelEvent down(at, at, {}, {0, -120}, {}, Qt::ControlModifier, Qt::NoScrollPhase, false);
   QApplication::sendEvent(WindowOf(Window.F7).windowHandle(), &down);
+  note();
   Type(Window.F7, Qt::Key_Minus, Qt::ControlModifier | Qt::KeypadModifier);
+  note();
   Type(Window.F7, Qt::Key_0, Qt::ControlModifier);
+  note();
   EXPECT_EQ(sizes, (std::vector<int>{125, 100, 90, 100}));
 }
 
@@ -90,13 +94,21 @@ TEST_F(Widgets, TheCtrlOfAnotherSizeIsNoKeyOfTheForm) {
   EXPECT_TRUE(Window.State.game.Players[1].LongestRoad);
 }
 
-TEST(StartingSize, IsOneOfTheSizesThatFitsOnTheScreen) {
-  for (const auto& [size, taken] : {std::pair(300, 125), std::pair(117, 100)}) {
+TEST(SizeOfWindows, IsOneThatFitsOnTheScreenAtTheStartAndToldOnceAtTheEnd) {
+  std::vector<int> told;
+  for (const auto& [size, taken] : {std::pair(117, 100), std::pair(300, 125)}) {
     tests::ScriptedServices services;
     mainwindow::MainWindow window(services);
     platform::qt::Shell shell(window.Desktop, window.F1, size);
     EXPECT_EQ(qRound(100 * platform::qt::Zoom()), taken);
+    shell.OnResize = [&told](int chosen) { told.push_back(chosen); };
+    window.F1.Visible = true;
+    QWindow* shown = shell.WindowOf(window.F1)->windowHandle();
+    for (const Qt::Key key : {Qt::Key_0, Qt::Key_Minus, Qt::Key_0, Qt::Key_Minus})
+      QTest::keyClick(shown, key, Qt::ControlModifier);
+    QTest::keyClick(shown, Qt::Key_Plus, Qt::ControlModifier);
   }
+  EXPECT_EQ(told, std::vector({100, 100}));
 }
 
 TEST_F(Widgets, AssistiveToolsPressPicturesAndSetTexts) {
