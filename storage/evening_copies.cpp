@@ -69,8 +69,8 @@ std::string_view WithoutClock(std::string_view gameFile) {
 }  // namespace
 
 WriteOutcome GameCopy::Write(const std::string& title, std::string_view bytes) {
-  std::error_code toldByTheWrite;
-  std::filesystem::create_directories(folder_, toldByTheWrite);
+  std::error_code unknown;  // the write fails then, and tells
+  std::filesystem::create_directories(folder_, unknown);
   const std::string name = NameOf(title);
   if (!file_.empty() && name == name_) return WriteWhole(file_, bytes);
   const path before = file_;
