@@ -175,8 +175,10 @@ def a_locked_main_window_takes_nothing(program):
     program.start()
     program.click(*BLACK_DIE)
     dialog = program.dialog()
-    for key in ("5", "F9", "F8", "alt+BackSpace", "ctrl+q", "alt+F4"):
+    for key in ("5", "F9", "F8", "alt+BackSpace", "ctrl+q"):
         program.screen.force_keyboard(program.main, key)
+    if not isinstance(program.screen, WaylandScreen):  # where the dialog has the keyboard back before the key comes
+        program.screen.force_keyboard(program.main, "alt+F4")
     program.click(20, -9)  # a menu
     program.click(*BLACK_DIE, button=3)
     assert program.dialog() == dialog
@@ -218,7 +220,8 @@ def a_killed_evening_is_found_again(program):
     program.keys("ctrl+f")
     program.screen.click(program.dialog(), 60, 108)  # the third place at the side
     program.keys("alt+n")
-    program.write(next((program.screen.folder / ".local/state/orvanbeg").glob("*.obg")).name)
+    copies = (program.screen.folder / ".local/state/orvanbeg").glob("*.obg")  # also those of other scenes
+    program.write(max(copies, key=lambda copy: copy.stat().st_mtime).name)
     program.keys("Return")
     program.wait_for_main()
     expect_rolls(program, (4, 3), (6, 5))
