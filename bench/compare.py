@@ -75,14 +75,19 @@ class Side(Program):
 
     def learn_place(self):
         """The window manager puts a window that stands alone to the same place each time."""
+        self.open_window(CLIENT_HEIGHT)
+        self.end()
+
+    def open_window(self, client_height):
+        """Launches; the client area, so many pixels high, is the lower part of the window. Its height as a whole."""
         self.launch()
         self.main = wait_for(lambda: next(iter(self.windows()), None), "the window")
         wait_for(lambda: self.screen.has_keyboard(self.main), "the keyboard to come to the window")
         told = self.screen.run("xwininfo", "-id", self.main)
         left, top, height = (int(re.search(edge + r":\s+(-?\d+)", told)[1])
                              for edge in ("Absolute upper-left X", "Absolute upper-left Y", "Height"))
-        self.corner = left, top + height - CLIENT_HEIGHT
-        self.end()
+        self.corner = left, top + height - client_height
+        return height
 
     def end(self):
         self.stop()

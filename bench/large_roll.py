@@ -2,12 +2,11 @@
 """A roll at the largest size of windows, 300 in 100, on a virtual screen of 3840 by 2160 pixels: from the key to the first
 and to the last change of the chart's pixels.
 Usage: large_roll.py PROGRAM [ROLLS]"""
-import re
 import statistics
 import sys
 import time
 
-from compare import CHART_LEFT, CHART_ROWS, CHART_WIDTH, CLIENT_HEIGHT, Hands, Side, XScreen, end_by_itself, wait_for
+from compare import CHART_LEFT, CHART_ROWS, CHART_WIDTH, CLIENT_HEIGHT, Hands, Side, XScreen, end_by_itself
 
 TIMES = 3
 
@@ -19,14 +18,8 @@ class LargeScreen(XScreen):
 class LargeSide(Side):
     def open(self):
         (self.folder / "orvanbeg-view.ini").write_bytes(b"300\r\n")
-        self.launch()
-        self.main = wait_for(lambda: next(iter(self.windows()), None), "the window")
-        wait_for(lambda: self.screen.has_keyboard(self.main), "the keyboard to come to the window")
-        told = self.screen.run("xwininfo", "-id", self.main)
-        left, top, height = (int(re.search(edge + r":\s+(-?\d+)", told)[1])
-                             for edge in ("Absolute upper-left X", "Absolute upper-left Y", "Height"))
+        height = self.open_window(TIMES * CLIENT_HEIGHT)
         assert height > TIMES * CLIENT_HEIGHT, "the window is not as large as it was told"
-        self.corner = left, top + height - TIMES * CLIENT_HEIGHT
 
     def chart(self):
         left, top = self.corner
