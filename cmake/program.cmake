@@ -1,5 +1,5 @@
 # The window system's side and the program. Only this part needs Qt.
-file(GLOB ORVANBEG_QT_SOURCES CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/platform/qt/*.cpp)
+orvanbeg_sources(ORVANBEG_QT_SOURCES ${PROJECT_SOURCE_DIR}/platform/qt)
 add_library(orvanbeg_platform_qt STATIC ${ORVANBEG_QT_SOURCES})
 target_link_libraries(orvanbeg_platform_qt PUBLIC orvanbeg_platform Qt6::Widgets Qt6::PrintSupport Qt6::Svg Qt6::DBus)
 
