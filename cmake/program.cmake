@@ -1,7 +1,8 @@
 # The window system's side and the program. Only this part needs Qt.
 orvanbeg_sources(ORVANBEG_QT_SOURCES ${PROJECT_SOURCE_DIR}/platform/qt)
 add_library(orvanbeg_platform_qt STATIC ${ORVANBEG_QT_SOURCES})
-target_link_libraries(orvanbeg_platform_qt PUBLIC orvanbeg_platform Qt6::Widgets Qt6::PrintSupport Qt6::Svg Qt6::DBus)
+list(TRANSFORM ORVANBEG_QT_PARTS PREPEND Qt6:: OUTPUT_VARIABLE ORVANBEG_QT_LIBRARIES)
+target_link_libraries(orvanbeg_platform_qt PUBLIC orvanbeg_platform ${ORVANBEG_QT_LIBRARIES})
 
 # The artwork that the forms hold is compiled in, under its path below resources/.
 file(GLOB ORVANBEG_ARTWORK RELATIVE ${PROJECT_SOURCE_DIR}/resources CONFIGURE_DEPENDS

@@ -137,7 +137,7 @@ class Chooser : public QFileDialog {
     setNameFilters(NameFilters(dialog.Filter));
     setDefaultSuffix(ToQt(dialog.DefaultExt));
     FitColumns(*this);
-    AddPlace(*this, ToQt(dialog.SideFolder.string()), ToQt(dialog.SideName));
+    AddPlace(*this, ToQt(dialog.SideFolder), ToQt(dialog.SideName));
     FitPlaces(*this);
     const QString before = ToQt(dialog.FileName);
     if (!before.isEmpty() && QFileInfo(before).dir().exists()) selectFile(before);

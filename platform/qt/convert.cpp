@@ -23,6 +23,16 @@ QString FamilyFor(const std::string& name) {
 
 }  // namespace
 
+QString ToQt(const std::filesystem::path& path) {
+  const std::u8string name = path.u8string();
+  return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+std::filesystem::path ToPath(const QString& name) {
+  const QByteArray bytes = name.toUtf8();
+  return std::u8string(bytes.begin(), bytes.end());
+}
+
 QFont ToQt(const Font& font, double pixelsPerPoint, double scale) {
   QFont result(FamilyFor(font.Name));
   result.setPixelSize(qMax(1, qFloor(qRound(font.Size * pixelsPerPoint) * scale)));

@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QRect>
 #include <QString>
+#include <filesystem>
 #include <string>
 
 #include "../controls.h"
@@ -17,6 +18,9 @@ namespace platform::qt {
 inline constexpr double kScreenPixelsPerPoint = 96.0 / 72.0;  // whatever resolution the screen reports
 
 inline QString ToQt(const std::string& text) { return QString::fromStdString(text); }
+/// File names in the system's own form: bytes on POSIX, whatever they are, and UTF-16 on Windows.
+QString ToQt(const std::filesystem::path& path);
+std::filesystem::path ToPath(const QString& name);
 inline QColor ToQt(Colour colour) { return {colour.Red, colour.Green, colour.Blue}; }
 /// In pixels of the screen. Edges are rounded, not sizes, so that neighbours that touch in twips touch on the screen.
 inline QRect ToQt(const Place& place) {

@@ -26,28 +26,32 @@ constexpr Pair kNamedKeys[] = {
 constexpr std::array kPadKeys{Qt::Key_Insert, Qt::Key_End,   Qt::Key_Down, Qt::Key_PageDown, Qt::Key_Left,
                               Qt::Key_Clear,  Qt::Key_Right, Qt::Key_Home, Qt::Key_Up,       Qt::Key_PageUp};
 
-// Scan codes of the top row, "1" to "0", on X11 and Wayland.
-constexpr quint32 kScanOf1 = 10;
-constexpr quint32 kScanOf0 = 19;
+// The places of the top row, "1" to "0".
+constexpr quint32 kPlaceOf1 = 10;
+constexpr quint32 kPlaceOf0 = 19;
 
-bool ScanCodesAreKnown() {
-  static const bool known = QGuiApplication::platformName() == "xcb" || OnWayland();
-  return known;
-}
-
-// The letters of a Latin keyboard by scan code, row by row.
+// The letters of a Latin keyboard by place, row by row.
 struct LetterRow {
-  quint32 firstScan;
+  quint32 firstPlace;
   std::string_view letters;
 };
 constexpr LetterRow kLetterRows[] = {{24, "QWERTYUIOP"}, {38, "ASDFGHJKL"}, {52, "ZXCVBNM"}};
 
-/// The letter by the key's position, for keyboards whose letters are not Latin.
+/// The key's place on the keyboard, as X11 and Wayland number it; 0 if it is not known.
+quint32 PlaceOf(const QKeyEvent& event) {
+  static const bool onWindows = QGuiApplication::platformName() == "windows";
+  static const bool known = onWindows || QGuiApplication::platformName() == "xcb" || OnWayland();
+  constexpr quint32 kWindowsStartsLower = 8;
+  const quint32 scan = known ? event.nativeScanCode() : 0;
+  return onWindows && scan > 0 ? scan + kWindowsStartsLower : scan;
+}
+
+/// The letter by the key's place, for keyboards whose letters are not Latin.
 KeyCode LetterByPlace(const QKeyEvent& event) {
-  if (!ScanCodesAreKnown() || event.key() <= 0xFF || event.key() >= Qt::Key_Escape) return kKeyUnknown;
+  if (event.key() <= 0xFF || event.key() >= Qt::Key_Escape) return kKeyUnknown;
   for (const LetterRow& row : kLetterRows) {
-    const quint32 place = event.nativeScanCode() - row.firstScan;
-    if (place < row.letters.size()) return row.letters[place];
+    const quint32 inRow = PlaceOf(event) - row.firstPlace;
+    if (inRow < row.letters.size()) return row.letters[inRow];
   }
   return kKeyUnknown;
 }
@@ -61,10 +65,9 @@ KeyCode PadCode(int key) {
 }
 
 KeyCode DigitCode(const QKeyEvent& event) {
-  const quint32 scan = event.nativeScanCode();
-  if (scan >= kScanOf1 && scan <= kScanOf0 && ScanCodesAreKnown())
-    return '0' + static_cast<int>(scan - kScanOf1 + 1) % 10;
-  const bool digit = !ScanCodesAreKnown() && event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9;
+  const quint32 place = PlaceOf(event);
+  if (place >= kPlaceOf1 && place <= kPlaceOf0) return '0' + static_cast<int>(place - kPlaceOf1 + 1) % 10;
+  const bool digit = place == 0 && event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9;
   return digit ? event.key() : kKeyUnknown;
 }
 

@@ -8,8 +8,8 @@
 
 namespace platform::qt {
 
-/// The key's code. Digits of the top row are recognised by their position, whatever the layout and Shift make of them.
-/// The number pad is never the top row.
+/// The key's code. Digits of the top row are recognised by their position, whatever the layout and Shift make of them,
+/// or by their key where the position is not known. The number pad is never the top row.
 KeyCode CodeOf(const QKeyEvent& event);
 
 /// Whether the windows are those of a Wayland compositor, whatever it is drawn with.

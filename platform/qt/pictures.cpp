@@ -40,7 +40,7 @@ QString PathOf(const Picture& picture) { return picture.IsResource ? ":/" + ToQt
 
 std::filesystem::file_time_type TimeOf(const Picture& picture) {
   std::error_code unknown;
-  return std::filesystem::last_write_time(picture.Name, unknown);
+  return std::filesystem::last_write_time(ToPath(ToQt(picture.Name)), unknown);
 }
 
 Decoded Decode(const Picture& picture) {

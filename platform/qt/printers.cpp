@@ -1,7 +1,6 @@
 // Printing: the installed printers, and a page on one of them or in a PDF file, drawn like the screen.
 #include <QApplication>
 #include <QBuffer>
-#include <QLibrary>
 #include <QLocale>
 #include <QPainter>
 #include <QPdfWriter>
@@ -29,14 +28,6 @@ bool DrawPage(QPagedPaintDevice& device, const Page& page) {
                         .pictureScale = page.UnitsPerInch / 96};
   Replay(painter, page.Drawing, onPaper);
   return painter.end();
-}
-
-/// What the print system says of the job sent last: a queue may refuse it. The toolkit does not report that.
-bool LastJobWasTaken() {
-  constexpr int kFirstFailure = 0x0100;
-  using LastError = int (*)();
-  const auto lastError = reinterpret_cast<LastError>(QLibrary("cups", 2).resolve("cupsLastError"));
-  return lastError == nullptr || lastError() < kFirstFailure;
 }
 
 }  // namespace

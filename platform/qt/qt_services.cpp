@@ -10,6 +10,7 @@
 #include <QTimer>
 
 #include "../form.h"
+#include "convert.h"
 #include "pictures.h"
 
 namespace platform::qt {
@@ -30,26 +31,9 @@ bool QtServices::CanShow(const Picture& picture) { return Refresh(picture); }
 
 double QtServices::Random() { return QRandomGenerator::global()->generateDouble(); }
 
-/// From the system, whatever bytes the folder's name consists of; otherwise from the toolkit.
-std::filesystem::path QtServices::ProgramFolder() {
-  std::error_code unknown;
-  const auto program = std::filesystem::read_symlink("/proc/self/exe", unknown);
-  return unknown ? std::filesystem::path(QApplication::applicationDirPath().toStdString()) : program.parent_path();
-}
-
-std::filesystem::path QtServices::ConfigurationFolder() {
-  return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation).toStdString();
-}
-
 std::filesystem::path QtServices::DocumentsFolder() {
   const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  return (QFileInfo(documents).isDir() ? documents : QDir::homePath()).toStdString();
-}
-
-/// The toolkit names this folder from 6.7 on.
-std::filesystem::path QtServices::StateFolder() {
-  const QString named = qEnvironmentVariable("XDG_STATE_HOME");
-  return (QDir::isAbsolutePath(named) ? named : QDir::homePath() + "/.local/state").toStdString();
+  return ToPath(QFileInfo(documents).isDir() ? documents : QDir::homePath());
 }
 
 /// Some languages write dates in letters or digits of their own, which no file of the program can hold.

@@ -1,4 +1,5 @@
-// The services of the machine by Qt and the standard library. Boxes and printing are in files of their own.
+// The services of the machine by Qt and the standard library. Boxes and printing are in files of their own, and what
+// each system does in its own way.
 #pragma once
 
 #include "../services.h"
@@ -27,12 +28,15 @@ class QtServices : public Services {
   std::filesystem::path StateFolder() override;
   std::string Today() override;
   std::string DecimalSeparator() override;
-  void KeepScreenAwake(bool awake, const std::string& reason) override { screenSaver_.KeepAway(awake, reason); }
+  void KeepScreenAwake(bool awake, const std::string& reason) override { screenSaver_->KeepAway(awake, reason); }
   void Quit(int status) override;
 
  private:
+  /// What the print system says of the job sent last.
+  static bool LastJobWasTaken();
+
   const Version programVersion_;
-  ScreenSaver screenSaver_;
+  const std::unique_ptr<ScreenSaver> screenSaver_ = ScreenSaver::Make();
   ToolkitLanguage toolkit_;
 };
 

@@ -54,10 +54,10 @@ TEST(ScreenSaver, IsKeptAwayWhileWantedEvenIfThatChangesBeforeTheAnswer) {
   ASSERT_TRUE(bus.registerService("org.freedesktop.ScreenSaver"));
   ASSERT_TRUE(bus.registerVirtualObject("/org/freedesktop/ScreenSaver", &desktop));
   {
-    platform::qt::ScreenSaver screenSaver;
-    for (const bool away : {false, true, true, false}) screenSaver.KeepAway(away, "why");
+    const auto screenSaver = platform::qt::ScreenSaver::Make();
+    for (const bool away : {false, true, true, false}) screenSaver->KeepAway(away, "why");
     EXPECT_TRUE(QTest::qWaitFor([&] { return desktop.Calls == QStringList{kAsked, "UnInhibit,41"}; }));
-    for (const char* reason : {"why", "warum"}) screenSaver.KeepAway(true, reason);
+    for (const char* reason : {"why", "warum"}) screenSaver->KeepAway(true, reason);
     EXPECT_TRUE(QTest::qWaitFor([&] { return desktop.Calls.size() == 5; }));
     QTest::qWait(50);  // for the answer
   }
@@ -66,12 +66,12 @@ TEST(ScreenSaver, IsKeptAwayWhileWantedEvenIfThatChangesBeforeTheAnswer) {
   bus.unregisterService("org.freedesktop.ScreenSaver");
   ASSERT_TRUE(bus.registerService("org.freedesktop.login1"));
   ASSERT_TRUE(bus.registerVirtualObject("/org/freedesktop/login1", &desktop));
-  platform::qt::ScreenSaver screenSaver;
-  screenSaver.KeepAway(true, "why");
+  const auto screenSaver = platform::qt::ScreenSaver::Make();
+  screenSaver->KeepAway(true, "why");
   EXPECT_TRUE(QTest::qWaitFor([&] { return desktop.Calls.last() == kLocked; }));
   QTest::qWait(50);  // for the answer
   EXPECT_EQ(desktop.Read(), -1);
-  screenSaver.KeepAway(false, {});
+  screenSaver->KeepAway(false, {});
   EXPECT_TRUE(QTest::qWaitFor([&] { return desktop.Read() == 0; }));
   close(desktop.Lock);
   QDBusConnection::disconnectFromBus("desktop");
