@@ -33,7 +33,7 @@ struct ChanceServices : ScriptedServices {
   using ScriptedServices::ScriptedServices;
 
   std::mt19937 Generator, Pictures;  // of their own, so that another way of drawing is not another evening
-  std::function<void()> WhileABoxIsOpen;
+  std::function<void()> WhileABoxIsOpen, BeforeAFileIsChosen;
 
   int Below(int end) { return static_cast<int>(Generator() % static_cast<unsigned>(end)); }
   bool Percent(int share) { return Below(100) < share; }
@@ -44,6 +44,10 @@ struct ChanceServices : ScriptedServices {
   Answer MessageBox(const std::string&, const std::string&, Buttons buttons, Icon) override {
     WhileABoxIsOpen();
     return buttons == Buttons::Ok ? Answer::Ok : Percent(50) ? Answer::Yes : Answer::No;
+  }
+  bool ChooseFile(FileDialog& dialog) override {
+    if (BeforeAFileIsChosen) BeforeAFileIsChosen();
+    return ScriptedServices::ChooseFile(dialog);
   }
   bool CanShow(const Picture&) override { return Pictures() % 100 != 0; }
   double Random() override { return Below(1000) / 1000.0; }

@@ -2,6 +2,9 @@
 //   ORVANBEG_EVENING_SEED=3 ORVANBEG_EVENING_EVENTS=5000000 random_evening_tests
 #include "random_evening.h"
 
+#include "../../storage/game_file.h"
+#include "../storage/random_state.h"
+
 namespace tests {
 namespace {
 
@@ -21,6 +24,30 @@ TEST_P(RandomEvening, KeepsWhatMustAlwaysHold) {
       << "the evening missed something of the game";
 }
 
+/// Every game that is loaded has any number in every field; the sanitizers look on.
+class HostileEvening : public RandomEvening {
+ protected:
+  HostileEvening() {
+    chance.ChosenFile = Folder / "hostile.obg";
+    chance.BeforeAFileIsChosen = [this] {
+      core::State state = games_.Next();
+      if (chance.Percent(20)) state.game.GameType = games_.Number();
+      if (chance.Percent(50)) state.game.DiceCount.fill(40);  // so that the log is read, with whatever it holds
+      Put(chance.ChosenFile, storage::GameFileText(state));
+      seen.insert("file");
+    };
+  }
+  std::string Offence() override { return LockOffence(); }
+
+ private:
+  RandomState games_{GetParam()};
+};
+
+TEST_P(HostileEvening, DoesNoHarm) {
+  Play(FromEnvironment("ORVANBEG_EVENING_EVENTS", kEvents));
+  EXPECT_TRUE(seen.contains("file"));
+}
+
 std::vector<unsigned> Seeds() {
   std::vector<unsigned> seeds(kEvenings);
   std::iota(seeds.begin(), seeds.end(), 1U);
@@ -29,6 +56,7 @@ std::vector<unsigned> Seeds() {
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomEvening, testing::ValuesIn(Seeds()), testing::PrintToStringParamName());
+INSTANTIATE_TEST_SUITE_P(Seed, HostileEvening, testing::Values(Seeds()[0]), testing::PrintToStringParamName());
 
 }  // namespace
 }  // namespace tests
