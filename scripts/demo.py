@@ -23,6 +23,19 @@ ATTACK, AFTER = "62b", "2+4 52h 2+2"
 WINS = ("2", "1")  # a seat and the action that brings the last point it needs
 
 
+def begin_game(program, names, expansion=False, points_less=0):
+    """Fills in a new game, from the program's first one: four players and the points of its kind. Enter starts it."""
+    program.keys("ctrl+n")
+    dialog = program.dialog()
+    program.keys(*["Down"] * expansion, *["Tab"] * 3, *["space"] * points_less)
+    program.keys(*["Tab"] * 3, *["space"] * (4 - len(names)), *["Tab"] * 2)
+    for name in names:
+        program.keys("Tab")
+        program.write(name)
+    program.keys(*["Tab"] * 3)
+    return dialog
+
+
 def play_turns(program, turns):
     for turn in turns:
         if "+" in turn:
@@ -34,7 +47,7 @@ def play_turns(program, turns):
 
 def play(program):
     """Stops at each moment that is worth a picture, with its name and the window."""
-    yield "new-game", program.begin_game(NAMES, expansion=True, points_less=POINTS_LESS)
+    yield "new-game", begin_game(program, NAMES, expansion=True, points_less=POINTS_LESS)
     program.answer("Return")
     play_turns(program, EVENING)
     yield "main-window", program.main

