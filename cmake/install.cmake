@@ -20,14 +20,19 @@ string(REGEX MATCH "Copyright \\(c\\) ([^\n]+)\n\n(.+)\n" all "${ORVANBEG_LICENC
 set(ORVANBEG_COPYRIGHT "${CMAKE_MATCH_1}")
 string(REPLACE "\n" "\n " ORVANBEG_LICENCE " ${CMAKE_MATCH_2}")
 string(REPLACE "\n \n" "\n .\n" ORVANBEG_LICENCE "${ORVANBEG_LICENCE}")
+install(TARGETS orvanbeg)
+install(DIRECTORY run/ DESTINATION ${ORVANBEG_DATA})
+install(FILES CHANGELOG.md docs/game-file.md docs/language-file.md docs/settings-file.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+if(WIN32)
+  include(${ORVANBEG_PACKAGING}/windows/package.cmake)
+  return()
+endif()
+
 configure_file(${ORVANBEG_PACKAGING}/copyright.in ${ORVANBEG_FILLED_IN}/copyright @ONLY)
 configure_file(${ORVANBEG_PACKAGING}/orvanbeg.6.in ${ORVANBEG_FILLED_IN}/orvanbeg.6 @ONLY)
 configure_file(${ORVANBEG_PACKAGING}/orvanbeg.de.6.in ${ORVANBEG_FILLED_IN}/orvanbeg.de.6 @ONLY)
 
-install(TARGETS orvanbeg)
-install(DIRECTORY run/ DESTINATION ${ORVANBEG_DATA})
-install(FILES ${ORVANBEG_FILLED_IN}/copyright CHANGELOG.md docs/game-file.md docs/language-file.md docs/settings-file.md
-  DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES ${ORVANBEG_FILLED_IN}/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES ${ORVANBEG_FILLED_IN}/orvanbeg.6 DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
 install(FILES ${ORVANBEG_FILLED_IN}/orvanbeg.de.6 DESTINATION ${CMAKE_INSTALL_MANDIR}/de/man6 RENAME orvanbeg.6)
 

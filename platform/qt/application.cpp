@@ -39,6 +39,8 @@ void MakeDisabledTextReadable() {
 }  // namespace
 
 void SetLook() {
+  // From the start: a dialog that is told only later that it is not the system's knows none of its places until then.
+  QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   QApplication::setStyle(new ZoomStyle);
   MakeDisabledTextReadable();
   QApplication::setFont(ToQt(Font{}));

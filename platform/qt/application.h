@@ -29,7 +29,8 @@ class Application {
   QApplication application_;
 };
 
-/// Sets the style and the font of all widgets, and what screen readers call them. Once, when there is an application.
+/// Sets the style and the font of all widgets, the toolkit's own dialogs on every system, and what screen readers call
+/// them. Once, when there is an application.
 void SetLook();
 
 }  // namespace platform::qt

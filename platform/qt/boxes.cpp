@@ -131,7 +131,6 @@ class Chooser : public QFileDialog {
         places_(sidebarUrls()),
         services_(services),
         objection_(dialog.Objection) {
-    setOption(QFileDialog::DontUseNativeDialog);
     setAcceptMode(dialog.OpensFile ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
     setFileMode(dialog.OpensFile ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     setNameFilters(NameFilters(dialog.Filter));

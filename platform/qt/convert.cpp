@@ -6,19 +6,16 @@
 namespace platform::qt {
 namespace {
 
-QString FamilyFor(const std::string& name) {
+QString FamilyFor(const QString& wanted) {
   static const QMap<QString, QString> kStandIns{{"Verdana", "DejaVu Sans"},
+                                                {"MS Sans Serif", "Arial"},
                                                 {"Arial", "Liberation Sans"},
-                                                {"MS Sans Serif", "Liberation Sans"},
                                                 {"Lucida Console", "DejaVu Sans Mono"}};
   static QMap<QString, QString> chosen;
-  const QString wanted = ToQt(name);
-  auto found = chosen.find(wanted);
-  if (found == chosen.end()) {
-    const bool there = QFontDatabase::hasFamily(wanted);
-    found = chosen.insert(wanted, there ? wanted : kStandIns.value(wanted, wanted));
-  }
-  return *found;
+  const auto found = chosen.constFind(wanted);
+  if (found != chosen.constEnd()) return *found;
+  const bool stays = !kStandIns.contains(wanted) || QFontDatabase::isSmoothlyScalable(wanted);
+  return *chosen.insert(wanted, stays ? wanted : FamilyFor(kStandIns[wanted]));
 }
 
 }  // namespace
@@ -34,7 +31,7 @@ std::filesystem::path ToPath(const QString& name) {
 }
 
 QFont ToQt(const Font& font, double pixelsPerPoint, double scale) {
-  QFont result(FamilyFor(font.Name));
+  QFont result(FamilyFor(ToQt(font.Name)));
   result.setPixelSize(qMax(1, qFloor(qRound(font.Size * pixelsPerPoint) * scale)));
   // Hinting widens small letters.
   if (scale < 1) result.setLetterSpacing(QFont::PercentageSpacing, 96);

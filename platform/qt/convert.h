@@ -31,8 +31,9 @@ inline QRect ToQt(const Place& place) {
 inline Qt::Alignment ToQt(Alignment align) {
   return align == Alignment::Centre ? Qt::AlignHCenter : align == Alignment::Right ? Qt::AlignRight : Qt::AlignLeft;
 }
-/// DejaVu Sans and Liberation Sans replace faces that are not installed. The size is scaled from whole pixels at 100 in
-/// 100 and rounded down, so that a text which fits its room there fits it at any scale.
+/// DejaVu Sans and Liberation Sans replace faces that are not installed, Arial one that Windows has in pixels only. The
+/// size is scaled from whole pixels at 100 in 100 and rounded down, so that a text which fits its room there fits it at
+/// any scale.
 QFont ToQt(const Font& font, double pixelsPerPoint = kScreenPixelsPerPoint, double scale = Zoom());
 
 }  // namespace platform::qt

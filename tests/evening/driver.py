@@ -37,6 +37,7 @@ class XScreen(contextlib.ExitStack):
     """A user's home, an X server and a window manager. Keys have the names of xdotool; a number is a key by its place."""
 
     size = "1280x900"  # pixels
+    stroke = 0.012  # seconds that a key is down
 
     def __enter__(self):
         folder = self.enter_context(tempfile.TemporaryDirectory(prefix="orvanbeg-", ignore_cleanup_errors=True))
@@ -88,7 +89,7 @@ class XScreen(contextlib.ExitStack):
         for key in keys:
             *modifiers, last = key.split("+")
             down, up = ([word for modifier in modifiers for word in (way, modifier)] for way in ("keydown", "keyup"))
-            self.hands(*down, "key", last, *up)
+            self.hands(*down, "keydown", last, "sleep", self.stroke, "keyup", last, *up)
 
     def write(self, text):
         """Puts a text in the place of what the field in focus holds."""
