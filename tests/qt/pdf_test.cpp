@@ -3,6 +3,7 @@
 #include <QRegularExpression>
 #include <QStandardPaths>
 
+#include "../../platform/qt/convert.h"
 #include "../../platform/qt/qt_services.h"
 #include "../storage/temporary_folder.h"
 
@@ -30,7 +31,7 @@ TEST_F(PdfTest, TextsStandAtTheirPlaces) {
     page.FontSize = text.Size;
     page.PrintWithin(text.X, text.Y, text.Room, text.Word);
   }
-  const QString pdf = QString::fromStdString(Folder / "page.pdf"), out = QString::fromStdString(Folder / "out");
+  const QString pdf = platform::qt::ToQt(Folder / "page.pdf"), out = platform::qt::ToQt(Folder / "out");
   Put(Folder / "page.pdf", platform::qt::QtServices({}).PdfOf(sheet));
   ASSERT_EQ(QProcess::execute("pdftotext", {"-bbox", pdf, out}), 0);
   const QString words = QString::fromStdString(Bytes(Folder / "out"));
