@@ -143,7 +143,7 @@ class Chooser : public QFileDialog {
   }
   /// The toolkit remembers the places for all programs.
   ~Chooser() override { setSidebarUrls(places_); }
-  std::string Chosen() const { return selectedFiles().value(0).toStdString(); }
+  std::string Chosen() const { return QDir::toNativeSeparators(selectedFiles().value(0)).toStdString(); }
 
   void accept() override {
     const bool goesThere = QFileInfo(ToQt(Chosen())).isDir();

@@ -3,6 +3,8 @@
 #include <QFontDatabase>
 #include <QMap>
 
+#include "key_codes.h"
+
 namespace platform::qt {
 namespace {
 
@@ -35,6 +37,8 @@ QFont ToQt(const Font& font, double pixelsPerPoint, double scale) {
   result.setPixelSize(qMax(1, qFloor(qRound(font.Size * pixelsPerPoint) * scale)));
   // Hinting widens small letters.
   if (scale < 1) result.setLetterSpacing(QFont::PercentageSpacing, 96);
+  // Otherwise each letter is as wide as whole pixels, and captions that have room elsewhere do not fit.
+  if (OnWindows()) result.setHintingPreference(QFont::PreferVerticalHinting);
   result.setBold(font.Bold);
   return result;
 }

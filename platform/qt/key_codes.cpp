@@ -39,11 +39,10 @@ constexpr LetterRow kLetterRows[] = {{24, "QWERTYUIOP"}, {38, "ASDFGHJKL"}, {52,
 
 /// The key's place on the keyboard, as X11 and Wayland number it; 0 if it is not known.
 quint32 PlaceOf(const QKeyEvent& event) {
-  static const bool onWindows = QGuiApplication::platformName() == "windows";
-  static const bool known = onWindows || QGuiApplication::platformName() == "xcb" || OnWayland();
+  static const bool known = OnWindows() || QGuiApplication::platformName() == "xcb" || OnWayland();
   constexpr quint32 kWindowsStartsLower = 8;
   const quint32 scan = known ? event.nativeScanCode() : 0;
-  return onWindows && scan > 0 ? scan + kWindowsStartsLower : scan;
+  return OnWindows() && scan > 0 ? scan + kWindowsStartsLower : scan;
 }
 
 /// The letter by the key's place, for keyboards whose letters are not Latin.
@@ -76,6 +75,11 @@ KeyCode DigitCode(const QKeyEvent& event) {
 bool OnWayland() {
   static const bool wayland = QGuiApplication::platformName().startsWith("wayland");
   return wayland;
+}
+
+bool OnWindows() {
+  static const bool windows = QGuiApplication::platformName() == "windows";
+  return windows;
 }
 
 KeyCode CodeOf(const QKeyEvent& event) {

@@ -15,6 +15,9 @@ KeyCode CodeOf(const QKeyEvent& event);
 /// Whether the windows are those of a Wayland compositor, whatever it is drawn with.
 bool OnWayland();
 
+/// Whether the windows are those of Windows.
+bool OnWindows();
+
 Modifiers ModifiersOf(Qt::KeyboardModifiers held);
 
 /// A shortcut as menus show it: "Ctrl+N", "F7", in the toolkit's own words; empty where there is no key.
