@@ -4,17 +4,7 @@ add_library(orvanbeg_platform_qt STATIC ${ORVANBEG_QT_SOURCES})
 list(TRANSFORM ORVANBEG_QT_PARTS PREPEND Qt6:: OUTPUT_VARIABLE ORVANBEG_QT_LIBRARIES)
 target_link_libraries(orvanbeg_platform_qt PUBLIC orvanbeg_platform ${ORVANBEG_QT_LIBRARIES})
 
-# The artwork that the forms hold is compiled in, under its path below resources/.
-file(GLOB ORVANBEG_ARTWORK RELATIVE ${PROJECT_SOURCE_DIR}/resources CONFIGURE_DEPENDS
-  ${PROJECT_SOURCE_DIR}/resources/*.svg ${PROJECT_SOURCE_DIR}/resources/iml*/*.svg)
-set(ORVANBEG_QRC "<RCC>\n<qresource prefix=\"/\">\n")
-foreach(picture IN LISTS ORVANBEG_ARTWORK)
-  string(APPEND ORVANBEG_QRC "<file alias=\"${picture}\">${PROJECT_SOURCE_DIR}/resources/${picture}</file>\n")
-endforeach()
-string(APPEND ORVANBEG_QRC "</qresource>\n</RCC>\n")
-file(CONFIGURE OUTPUT artwork.qrc CONTENT "${ORVANBEG_QRC}")
-qt_add_resources(ORVANBEG_ARTWORK_SOURCE ${PROJECT_BINARY_DIR}/artwork.qrc)
-add_library(orvanbeg_artwork OBJECT ${ORVANBEG_ARTWORK_SOURCE})
+include(cmake/artwork.cmake)
 
 add_executable(orvanbeg main.cpp)
 target_link_libraries(orvanbeg PRIVATE orvanbeg_mainwindow orvanbeg_platform_qt orvanbeg_artwork)

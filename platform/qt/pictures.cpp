@@ -6,7 +6,7 @@
 #include <QHash>
 #include <QImageReader>
 #include <QPaintDevice>
-#include <QSvgRenderer>
+#include <QPicture>
 #include <QWidget>
 #include <algorithm>
 #include <filesystem>
@@ -25,7 +25,7 @@ constexpr qint64 kLargestFile = 32 * 1024 * 1024;  // bytes
 
 /// A drawing or an image, and the pixels made from it last.
 struct Decoded {
-  std::unique_ptr<QSvgRenderer> drawing;
+  QPicture drawing;
   QImage image;
   std::optional<QImage> large;  ///< the image at a larger size, empty if there is none; read when it is first needed
   std::filesystem::file_time_type fileTime;
@@ -33,7 +33,8 @@ struct Decoded {
   qreal pixelsRatio = 0;
   double pixelsScale = 0;
 
-  QSize Size() const { return drawing ? drawing->defaultSize() : image.size(); }
+  bool IsDrawing() const { return !drawing.isNull(); }
+  QSize Size() const { return IsDrawing() ? drawing.boundingRect().size() : image.size(); }
 };
 
 QString PathOf(const Picture& picture) { return picture.IsResource ? ":/" + ToQt(picture.Name) : ToQt(picture.Name); }
@@ -47,7 +48,7 @@ Decoded Decode(const Picture& picture) {
   Decoded decoded;
   const QString path = PathOf(picture);
   if (picture.IsResource) {
-    decoded.drawing = std::make_unique<QSvgRenderer>(path);
+    decoded.drawing.load(path);
   } else {
     decoded.fileTime = TimeOf(picture);
     decoded.image = ReadImageFile(path);
@@ -94,14 +95,26 @@ QImage ReadLarge(const QString& path) {
   return origin == digest ? large : QImage();
 }
 
+/// A drawing counts in dots of the screen, and playing it would take those of a printer into account.
+void Play(QPainter& painter, const QPicture& drawing, const QRectF& place) {
+  const QSizeF natural = drawing.boundingRect().size();
+  const QPaintDevice& device = *painter.device();
+  painter.save();
+  painter.translate(place.topLeft());
+  painter.scale(place.width() / natural.width() * drawing.logicalDpiX() / device.logicalDpiX(),
+                place.height() / natural.height() * drawing.logicalDpiY() / device.logicalDpiY());
+  painter.drawPicture(QPointF(), drawing);
+  painter.restore();
+}
+
 QPixmap Render(Decoded& decoded, const QString& path, qreal ratio, double scale) {
   const QSize size = decoded.Size() * (ratio * scale);
   QPixmap pixels;
-  if (decoded.drawing) {
+  if (decoded.IsDrawing()) {
     pixels = QPixmap(size);
     pixels.fill(Qt::transparent);
     QPainter painter(&pixels);
-    decoded.drawing->render(&painter);
+    Play(painter, decoded.drawing, pixels.rect());
   } else if (size == decoded.image.size()) {
     pixels = QPixmap::fromImage(decoded.image);
   } else {
@@ -120,10 +133,10 @@ QImage ReadImageFile(const QString& path) { return ReadJpeg(path, kSeen); }
 
 void ForgetPictures() { kept.clear(); }
 
-QSize SizeOf(const Picture& picture) { return picture.Empty() ? QSize() : Find(picture)->Size(); }
+QSize SizeOf(const Picture& picture) { return Find(picture)->Size(); }
 
 bool Refresh(const Picture& picture) {
-  if (picture.Empty() || picture.IsResource) return !SizeOf(picture).isEmpty();
+  if (picture.IsResource) return !SizeOf(picture).isEmpty();
   std::shared_ptr<Decoded>& found = kept[PathOf(picture)];
   if (!found || found->fileTime != TimeOf(picture)) {
     auto fresh = std::make_shared<Decoded>(Decode(picture));
@@ -136,10 +149,8 @@ bool Refresh(const Picture& picture) {
 }
 
 QPixmap PixmapOf(const Picture& picture, qreal devicePixelRatio, double scale) {
-  if (picture.Empty()) return {};
   Decoded& decoded = *Find(picture);
-  const bool isKept = decoded.pixelsRatio == devicePixelRatio && decoded.pixelsScale == scale;
-  if (!decoded.Size().isEmpty() && !isKept) {
+  if (decoded.pixelsRatio != devicePixelRatio || decoded.pixelsScale != scale) {
     decoded.pixels = Render(decoded, PathOf(picture), devicePixelRatio, scale);
     decoded.pixelsRatio = devicePixelRatio;
     decoded.pixelsScale = scale;
@@ -158,11 +169,10 @@ QIcon IconOf(const Picture& picture, const Picture& small) {
 }
 
 void DrawScaled(QPainter& painter, const Picture& picture, QPointF at, double scale) {
-  if (picture.Empty()) return;
   const Decoded& decoded = *Find(picture);
   const QRectF place(at, QSizeF(decoded.Size()) * scale);
-  if (decoded.drawing) {
-    decoded.drawing->render(&painter, place);
+  if (decoded.IsDrawing()) {
+    Play(painter, decoded.drawing, place);
   } else {
     painter.drawImage(place, decoded.image);
   }

@@ -34,8 +34,7 @@ void Draw(QPainter& painter, const Picture& picture, QPointF at, double scale = 
 /// The same at the device's own resolution, drawings as vectors, without keeping it.
 void DrawScaled(QPainter& painter, const Picture& picture, QPointF at, double scale);
 
-/// An icon in the sizes of desktops, drawn without the toolkit's plugin for drawings, which may not be installed.
-/// `small` is for the smallest sizes.
+/// An icon in the sizes of desktops. `small` is for the smallest sizes.
 QIcon IconOf(const Picture& picture, const Picture& small);
 
 /// Releases all decoded pictures, which may not outlive the application.

@@ -48,7 +48,21 @@ TEST(Pictures, AllDrawingsOfTheFormsLoadAtTheirSize) {
   }
   EXPECT_EQ(platform::qt::SizeOf(windows::kArrow), QSize(32, 32));
   EXPECT_EQ(platform::qt::SizeOf(windows::kWinner), QSize(55, 55));
-  EXPECT_TRUE(platform::qt::SizeOf({"no-such.jpg", false}).isEmpty());
+}
+
+TEST(Pictures, AreAsLargeWhateverTheDotsOfTheDeviceAndNothingIfTheyCannotBeLoaded) {
+  const std::pair<platform::Picture, QRect> rows[] = {
+      {windows::imlIcons.Image(5), {10, 4, 24, 24}}, {{}, {}}, {{"no-such.svg"}, {}}, {{"no-such.jpg", false}, {}}};
+  for (const auto& [picture, pixels] : rows) {
+    QImage image = Painted({});
+    image.setDotsPerMeterX(47244);  // a printer's 1200 to an inch
+    image.setDotsPerMeterY(47244);
+    QPainter painter(&image);
+    platform::qt::DrawScaled(painter, picture, {10, 4}, 1.5);
+    EXPECT_TRUE(painter.transform().isIdentity()) << picture.Name;
+    EXPECT_EQ(Inked(image), pixels) << picture.Name;
+    EXPECT_EQ(platform::qt::PixmapOf(picture, 1).isNull(), pixels.isNull()) << picture.Name;
+  }
 }
 
 TEST(Pictures, OfAFileThatIsAPictureTheTopLeftPartIsDecoded) {
