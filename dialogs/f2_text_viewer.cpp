@@ -1,6 +1,7 @@
 #include "f2_text_viewer.h"
 
 #include "../core/texts.h"
+#include "../storage/path_text.h"
 #include "../storage/text_lines.h"
 
 namespace dialogs {
@@ -35,8 +36,9 @@ F2::F2(const windows::Context& context)
 /// "readme_fr.txt" for "readme.txt" while the program speaks French.
 std::ifstream F2::OpenInLanguage(const std::filesystem::path& file) {
   const std::string& code = context_.state.Text(core::text::LanguageCode);
-  std::filesystem::path translated = file;
-  translated.replace_filename(file.stem().string() + "_" + code + file.extension().string());
+  std::filesystem::path translated = file.parent_path() / file.stem();
+  translated += storage::PathOf("_" + code);
+  translated += file.extension();
   std::ifstream found = storage::OpenRegularFile(translated);
   return found.is_open() ? std::move(found) : storage::OpenRegularFile(file);
 }
@@ -44,7 +46,7 @@ std::ifstream F2::OpenInLanguage(const std::filesystem::path& file) {
 void F2::ShowFile(const std::string& name) {
   txtInfo.Text = std::string();
   Caption = txtInfo.SpokenName = "Orvan Begleiter Readme";
-  std::ifstream file = OpenInLanguage(context_.places.ProgramFiles() / name);
+  std::ifstream file = OpenInLanguage(context_.places.ProgramFiles() / storage::PathOf(name));
   if (!file.is_open()) return;
   storage::LineReader reader(file, storage::LineFeeds::EndLines);
   std::string text;

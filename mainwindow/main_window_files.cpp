@@ -9,6 +9,7 @@
 #include "../platform/mnemonic.h"
 #include "../storage/game_file.h"
 #include "../storage/language_file.h"
+#include "../storage/path_text.h"
 #include "../storage/settings_file.h"
 #include "../storage/text_lines.h"
 #include "../windows/saving.h"
@@ -31,13 +32,13 @@ const std::string kNoLanguages =
 /// Shows the file dialog; false if no file was chosen.
 bool MainWindow::ChooseFile(int titleText, std::string filter, bool opens) {
   cmdLS_.Filter = std::move(filter);
-  cmdLS_.InitDir = context_.places.FirstFolder().string();
+  cmdLS_.InitDir = storage::TextOf(context_.places.FirstFolder());
   cmdLS_.DialogTitle = platform::WithoutMnemonic(State.Text(titleText));
   cmdLS_.OpensFile = opens;
   cmdLS_.Objection = nullptr;
   if (!opens) {
-    cmdLS_.Objection = [this](const std::string& path) {
-      return windows::ObjectionToSaving(State, path, !context_.places.Copies().empty());
+    cmdLS_.Objection = [this](const std::string& file) {
+      return windows::ObjectionToSaving(State, storage::PathOf(file), !context_.places.Copies().empty());
     };
   }
   cmdLS_.SideFolder = opens ? context_.places.Copies() : std::filesystem::path();
@@ -48,8 +49,9 @@ bool MainWindow::ChooseFile(int titleText, std::string filter, bool opens) {
 void MainWindow::F1_mnuFileSaveAs_Click() {
   const std::string filter = State.Text(text::GameFiles) + kGameFiles;
   if (!ChooseFile(text::MenuSaveAs, filter, false)) return;
-  const auto written = storage::WriteGame(cmdLS_.FileName, storage::GameFileText(State), context_.places.Copies());
-  if (!written) services_.MessageBox(windows::TextOfFailure(State, text::GameNotSaved, cmdLS_.FileName, written));
+  const std::filesystem::path chosen = storage::PathOf(cmdLS_.FileName);
+  const auto written = storage::WriteGame(chosen, storage::GameFileText(State), context_.places.Copies());
+  if (!written) services_.MessageBox(windows::TextOfFailure(State, text::GameNotSaved, chosen, written));
 }
 
 void MainWindow::F1_mnuFileLoad_Click() {
@@ -58,7 +60,7 @@ void MainWindow::F1_mnuFileLoad_Click() {
 }
 
 void MainWindow::LoadGame() {
-  const std::string chosen = cmdLS_.FileName;
+  const std::filesystem::path chosen = storage::PathOf(cmdLS_.FileName);
   std::ifstream file = storage::OpenRegularFile(chosen);
   if (!file.is_open()) {
     services_.MessageBox(windows::TextOfUnopened(State, text::GameNotRead, chosen));
@@ -73,7 +75,7 @@ void MainWindow::LoadGame() {
   if (outcome == storage::GameFileOutcome::Whole) {
     LeaveCopies();
   } else {
-    services_.MessageBox(State.Text(text::GameNotRead) + "\n" + chosen);
+    services_.MessageBox(State.Text(text::GameNotRead) + "\n" + cmdLS_.FileName);
   }
 }
 
@@ -81,9 +83,9 @@ void MainWindow::LoadGame() {
 void MainWindow::LeaveCopies() {
   std::error_code unknown;
   const storage::Places& places = context_.places;
-  const std::filesystem::path loaded = cmdLS_.FileName;
+  const std::filesystem::path loaded = storage::PathOf(cmdLS_.FileName);
   if (!std::filesystem::equivalent(loaded.parent_path(), places.Copies(), unknown)) return;
-  cmdLS_.FileName = (places.FirstFolder() / loaded.filename()).string();
+  cmdLS_.FileName = storage::TextOf(places.FirstFolder() / loaded.filename());
 }
 
 void MainWindow::ShowLoadedGame() {
@@ -124,7 +126,7 @@ void MainWindow::SaveSettings() {
   if (answer == platform::Answer::No) return;
   const auto path = context_.places.SettingsFile();
   const auto written = storage::WriteSettings(path, State);
-  if (!written) services_.MessageBox(windows::TextOfFailure(State, text::SettingsNotSaved, path.string(), written));
+  if (!written) services_.MessageBox(windows::TextOfFailure(State, text::SettingsNotSaved, path, written));
   services_.Quit(0);
 }
 
@@ -151,7 +153,7 @@ bool MainWindow::ReadLanguageList() {
   core::Language found = State.language;
   if (storage::ListLanguages(file, found) == 0) {
     const std::string& said = State.Text(text::NoLanguages);
-    services_.MessageBox((said.empty() ? kNoLanguages : said) + "\n" + path.string());
+    services_.MessageBox((said.empty() ? kNoLanguages : said) + "\n" + storage::TextOf(path));
     return false;
   }
   State.language = found;
@@ -168,7 +170,7 @@ void MainWindow::ReadTexts() {
   if (count >= core::kTexts) return;
   const std::string figures = std::to_string(std::max(count, 0)) + " / " + std::to_string(core::kTexts);
   services_.MessageBox(State.Text(text::LanguageIncomplete) + "\n" + State.language.Languages[0] + ", " + figures +
-                       "\n" + path.string());
+                       "\n" + storage::TextOf(path));
 }
 
 void MainWindow::SpeakLanguage() {

@@ -4,6 +4,7 @@
 
 #include "../core/texts.h"
 #include "../platform/mnemonic.h"
+#include "../storage/path_text.h"
 #include "../storage/safe_file.h"
 #include "../windows/saving.h"
 #include "game_report.h"
@@ -87,14 +88,15 @@ void F10::PrintGame() {
 void F10::WritePdf(const platform::Page& page) {
   pdfFile_.Filter = "PDF (*.pdf)|*.pdf";
   pdfFile_.DefaultExt = "pdf";
-  pdfFile_.Objection = [this](const std::string& path) { return windows::ObjectionToSaving(state(), path, false); };
-  pdfFile_.InitDir = context_.places.FirstFolder().string();
+  pdfFile_.Objection = [this](const std::string& file) {
+    return windows::ObjectionToSaving(state(), storage::PathOf(file), false);
+  };
+  pdfFile_.InitDir = storage::TextOf(context_.places.FirstFolder());
   pdfFile_.DialogTitle = Caption;
   if (!context_.services.ChooseFile(pdfFile_) || pdfFile_.FileName.empty()) return;
-  const auto written = storage::WriteWhole(pdfFile_.FileName, context_.services.PdfOf(page));
-  if (!written) {
-    context_.services.MessageBox(windows::TextOfFailure(state(), text::GameNotPrinted, pdfFile_.FileName, written));
-  }
+  const std::filesystem::path chosen = storage::PathOf(pdfFile_.FileName);
+  const auto written = storage::WriteWhole(chosen, context_.services.PdfOf(page));
+  if (!written) context_.services.MessageBox(windows::TextOfFailure(state(), text::GameNotPrinted, chosen, written));
 }
 
 }  // namespace printing

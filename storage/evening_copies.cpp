@@ -8,7 +8,9 @@
 #include <mutex>
 #include <vector>
 
+#include "file_system.h"
 #include "game_file.h"
+#include "path_text.h"
 #include "text_lines.h"
 
 namespace storage {
@@ -24,10 +26,8 @@ constexpr auto kMinute = std::chrono::minutes(1);
 
 /// "2026-11-23 19.42", by the clock on the wall.
 std::string Stamp(std::time_t time) {
-  std::tm local = {};
-  localtime_r(&time, &local);
   char text[32] = {};
-  return {text, std::strftime(text, sizeof text, "%Y-%m-%d %H.%M", &local)};
+  return {text, std::strftime(text, sizeof text, "%Y-%m-%d %H.%M", std::localtime(&time))};
 }
 
 /// Whether a name begins like those of copies and has their extension.
@@ -45,7 +45,7 @@ std::string NameOf(const std::string& title) {
   std::string name = title.substr(0, kLongestTitle);
   while (name.size() < title.size() && !name.empty() && (title[name.size()] & 0xC0) == 0x80) name.pop_back();
   for (char& byte : name) {
-    if (byte == '/' || static_cast<unsigned char>(byte) < ' ' || byte == 0x7F) byte = '-';
+    if (!file_system::FitsInName(byte) || static_cast<unsigned char>(byte) < ' ' || byte == 0x7F) byte = '-';
   }
   const auto last = name.find_last_not_of(' ');
   return last == std::string::npos ? "" : name.substr(0, last + 1);
@@ -68,6 +68,8 @@ std::string_view WithoutClock(std::string_view gameFile) {
 
 }  // namespace
 
+GameCopy::GameCopy(path folder, std::time_t begun) : folder_(std::move(folder)), stamp_(Stamp(begun)) {}
+
 WriteOutcome GameCopy::Write(const std::string& title, std::string_view bytes) {
   std::error_code unknown;  // the write fails then, and tells
   std::filesystem::create_directories(folder_, unknown);
@@ -83,10 +85,10 @@ WriteOutcome GameCopy::Write(const std::string& title, std::string_view bytes) {
 }
 
 WriteOutcome GameCopy::WriteUnderNewName(const std::string& name, std::string_view bytes) {
-  const std::string begin = Stamp(begun_) + (name.empty() ? "" : " " + name);
+  const std::string begin = stamp_ + (name.empty() ? "" : " " + name);
   WriteOutcome written;
   for (int number = 1; number <= kMostOfOneName; ++number) {
-    const path file = folder_ / (begin + (number == 1 ? "" : " (" + std::to_string(number) + ")") + kExtension);
+    const path file = folder_ / PathOf(begin + (number == 1 ? "" : " (" + std::to_string(number) + ")") + kExtension);
     written = WriteNew(file, bytes);
     if (written.Failure == WriteFailure::Taken) continue;
     if (written) {
@@ -106,7 +108,7 @@ void GameCopy::RemoveOldCopies() const {
        found.increment(unknown)) {
     std::error_code gone;
     const path& file = found->path();
-    if (file != file_ && IsCopy(file.filename().string()) && is_regular_file(found->symlink_status(gone))) {
+    if (file != file_ && IsCopy(TextOf(file.filename())) && is_regular_file(found->symlink_status(gone))) {
       copies.emplace_back(AgeOf(file), file);
     }
   }
@@ -214,7 +216,7 @@ WriteOutcome WriteGame(const path& file, std::string_view bytes, const path& cop
     return whole;
   }
   GameCopy copy(copies, std::time(nullptr));
-  return copy.Write(file.stem().string(), oldBytes) ? WriteInPlace(file, bytes) : whole;
+  return copy.Write(TextOf(file.stem()), oldBytes) ? WriteInPlace(file, bytes) : whole;
 }
 
 }  // namespace storage

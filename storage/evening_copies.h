@@ -18,11 +18,11 @@ namespace storage {
 
 inline constexpr int kMostCopies = 20;
 
-/// The file of one game. Belongs to one thread at a time.
+/// The file of one game. Made by the main thread, it then belongs to one thread at a time.
 class GameCopy {
  public:
   /// A game that began at this time. Nothing is written yet.
-  GameCopy(std::filesystem::path folder, std::time_t begun) : folder_(std::move(folder)), begun_(begun) {}
+  GameCopy(std::filesystem::path folder, std::time_t begun);
 
   /// Writes the game, for the first time under a name that no file bears, and removes what is more than `kMostCopies`
   /// then. A new title gives the file a new name.
@@ -33,7 +33,7 @@ class GameCopy {
   void RemoveOldCopies() const;
 
   std::filesystem::path folder_;
-  std::time_t begun_;
+  std::string stamp_;           ///< when the game began, as the file's name tells it
   std::string name_;            ///< the title in the file's name
   std::filesystem::path file_;  ///< empty before the first write
 };

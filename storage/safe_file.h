@@ -3,9 +3,7 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
 #include <string_view>
-#include <system_error>
 
 namespace storage {
 
@@ -22,7 +20,6 @@ enum class WriteFailure {
 
 struct [[nodiscard]] WriteOutcome {
   WriteFailure Failure = WriteFailure::None;
-  std::error_code Cause;  ///< the system's own word on it
 
   explicit operator bool() const { return Failure == WriteFailure::None; }
 };
@@ -46,8 +43,5 @@ bool CanWriteWhole(const std::filesystem::path& file);
 
 /// Whether WriteInPlace may write there.
 bool CanWriteInPlace(const std::filesystem::path& file);
-
-/// The file where a link, or a chain of them, leads; the path itself if it is no link. Nothing for a circle of links.
-std::filesystem::path LinkTarget(std::filesystem::path path);
 
 }  // namespace storage

@@ -1,9 +1,7 @@
 #include "saving.h"
 
-#include <filesystem>
-
 #include "../core/texts.h"
-#include "../storage/safe_file.h"
+#include "../storage/path_text.h"
 
 namespace windows {
 namespace {
@@ -21,29 +19,29 @@ int TextOfCause(storage::WriteFailure failure) {
 
 }  // namespace
 
-std::string ObjectionToSaving(const core::State& state, const std::string& path, bool inPlace) {
-  const std::filesystem::path folder = std::filesystem::path(path).parent_path();
+std::string ObjectionToSaving(const core::State& state, const std::filesystem::path& file, bool inPlace) {
+  const std::filesystem::path folder = file.parent_path();
   std::error_code unknown;
-  if (!is_directory(folder, unknown)) return state.Text(core::text::NoSuchFolder) + "\n\n" + folder.string();
-  if (!storage::CanWriteWhole(path) && !(inPlace && storage::CanWriteInPlace(path))) {
-    return state.Text(core::text::NotAllowed) + "\n\n" + path;
+  if (!is_directory(folder, unknown)) return state.Text(core::text::NoSuchFolder) + "\n\n" + storage::TextOf(folder);
+  if (!storage::CanWriteWhole(file) && !(inPlace && storage::CanWriteInPlace(file))) {
+    return state.Text(core::text::NotAllowed) + "\n\n" + storage::TextOf(file);
   }
   return {};
 }
 
-std::string TextOfFailure(const core::State& state, int failure, const std::string& file,
+std::string TextOfFailure(const core::State& state, int failure, const std::filesystem::path& file,
                           const storage::WriteOutcome& outcome) {
-  return state.Text(failure) + "\n" + file + "\n\n" + state.Text(TextOfCause(outcome.Failure));
+  return state.Text(failure) + "\n" + storage::TextOf(file) + "\n\n" + state.Text(TextOfCause(outcome.Failure));
 }
 
-std::string TextOfUnopened(const core::State& state, int failure, const std::string& file) {
+std::string TextOfUnopened(const core::State& state, int failure, const std::filesystem::path& file) {
   std::error_code unknown;
   const auto found = std::filesystem::status(file, unknown);
-  const auto folder = std::filesystem::status(std::filesystem::path(file).parent_path(), unknown);
+  const auto folder = std::filesystem::status(file.parent_path(), unknown);
   storage::WriteOutcome cause;
   if (folder.type() == std::filesystem::file_type::not_found) cause.Failure = storage::WriteFailure::NoSuchFolder;
   if (exists(found) && !is_regular_file(found)) cause.Failure = storage::WriteFailure::NotAFile;
-  return cause ? state.Text(failure) + "\n" + file : TextOfFailure(state, failure, file, cause);
+  return cause ? state.Text(failure) + "\n" + storage::TextOf(file) : TextOfFailure(state, failure, file, cause);
 }
 
 }  // namespace windows
