@@ -47,16 +47,6 @@ TEST_F(DiceLogTest, MenuKnowsThreeShipsOnSixSidesAndMouseFourEvenFaces) {
   }
 }
 
-TEST_F(DiceLogTest, RollsAreLoggedFromEntryOneAndUndoFreesTheEntry) {
-  Roll({3, 4, 2});
-  EXPECT_THAT(std::vector(&game.DiceLog[0], &game.DiceLog[3]), ElementsAre(TRoll(), TRoll{3, 4, 2}, TRoll()));
-  Calls.clear();
-  for (int time = 1; time <= 2; ++time) core::UndoLastRoll(state, *this);  // the second in an empty game
-  EXPECT_THAT(game.DiceLog, Each(TRoll()));
-  EXPECT_THAT(game.DiceCount, Each(0));
-  EXPECT_THAT(Calls, ElementsAre("chart of 0", "chart of 0"));
-}
-
 TEST_F(DiceLogTest, LogHasRoomFor500RollsAndThe501stOnlyShows) {
   for (int i = 0; i < 499; ++i) Roll({1, 1, 1});
   Roll({6, 6, 2});

@@ -1,36 +1,17 @@
 // What a game starts with, what a player may do, what holdings are worth, and who has won.
 #include <gmock/gmock.h>
 
-#include "../../core/new_game.h"
 #include "../../core/player_actions.h"
 #include "../../core/points.h"
 
 namespace core {
 namespace {
 
-using testing::Each;
 using testing::ElementsAre;
 
 using Title = bool TPlayer::*;
 constexpr Title kTitles[] = {&TPlayer::LongestRoad,     &TPlayer::LargestArmy,       &TPlayer::PoliticsMetropolis,
                              &TPlayer::TradeMetropolis, &TPlayer::ScienceMetropolis, &TPlayer::Merchant};
-
-TEST(StartGame, BeginsAllSeatsAnewAndClearsTheCountsButKeepsTheLog) {
-  State state;
-  Game& game = state.game;
-  game.Players.fill({"old", 4, 4, true, true, true, true, true, 4, true, true});
-  game.DiceCount.fill(9);
-  game.EventCount.fill(8);
-  game.DiceLog.fill({1, 2, 3});
-  game.Clock = {500, 50};
-  StartGame(state, {3, kFirstExpansion, 15, {"", "Ada", "Bo", "", "Dora", "Emil", "Fritz"}, kOn, kOff, "", ""});
-  EXPECT_EQ(game.Players[2], (TPlayer{.Name = "Bo", .Settlements = 1, .Cities = 1, .Active = true}));
-  EXPECT_EQ(game.Players[6], (TPlayer{.Name = "old", .Settlements = 1, .Cities = 1}));
-  EXPECT_THAT(game.EventCount, ElementsAre(8, 0, 0, 0, 0)) << "rolls without event die stay";
-  EXPECT_THAT(WithoutPlaceZero(game.DiceCount), Each(0));
-  EXPECT_THAT(game.Clock, Each(0));
-  EXPECT_THAT(game.DiceLog, Each(TRoll{1, 2, 3}));
-}
 
 /// What the action makes of so many settlements and cities: "5 0", or the texts of the refusal: "57/59".
 std::string After(Action action, std::int16_t settlements, std::int16_t cities) {
@@ -52,23 +33,6 @@ TEST(PlayerActions, MovePiecesWithinTheLimitsButHoldNobodyBackWhoIsAboveThem) {
   EXPECT_EQ(After(kBuildCity, -32768, 32767), "-32768 32767");
   EXPECT_EQ(After(kLoseCity, 6, 0), "62/63");
   EXPECT_EQ(After(kLoseCity, 5, 1), "6 0");
-}
-
-TEST(PlayerActions, GiveEachTitleToOneSeatAloneWhereTheKindOfGameHasIt) {
-  for (int action = kLongestRoad; action <= kMerchant; ++action) {
-    Game game;
-    game.Players.fill({"", 0, 0, true, true, true, true, true, 0, true});
-    auto expected = game.Players;
-    for (int seat = 0; seat < 6; ++seat) expected[seat].*kTitles[action - kLongestRoad] = seat == 0;
-    ApplyPlayerAction(game, {.CurrentPlayer = 6, .ActionCode = static_cast<std::int16_t>(action)});
-    EXPECT_EQ(game.Players, expected) << "action " << action;
-  }
-  std::string base, expansion;
-  for (int action = kBuildSettlement; action <= kLoseCity; ++action) {
-    base += ActionOffered(kBaseGame, action) ? "+" : "-";
-    expansion += ActionOffered(kFirstExpansion, action) ? "+" : "-";
-  }
-  EXPECT_EQ(base + " " + expansion, "+++++----- ++++-+++++");
 }
 
 TEST(Points, AddUpAllHoldingsOfEverySeatWhetherItPlaysOrNot) {
