@@ -86,6 +86,9 @@ TEST_F(DiceLogTest, UndoTakesBackOnlyWhatCountsAndLogAgreeOn) {
     core::UndoLastRoll(state, *this);
     EXPECT_EQ(std::pair(game.DiceCount[7], game.EventCount[4]), std::pair(sevensLeft, shipsLeft)) << sevens;
   }
+  game = {};
+  core::UndoLastRoll(state, *this);
+  EXPECT_THAT(game.DiceCount, Each(0)) << "nothing to take back";
 }
 
 }  // namespace
