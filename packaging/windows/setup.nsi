@@ -26,6 +26,7 @@ VIAddVersionKey LegalCopyright "Copyright (c) ${COPYRIGHT}"
 
 !define MUI_ICON "orvanbeg.ico"
 !define MUI_UNICON "orvanbeg.ico"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "setup.bmp"
 !define MUI_ABORTWARNING
 !define MUI_FINISHPAGE_RUN "$INSTDIR\bin\orvanbeg.exe"
 !insertmacro MUI_PAGE_DIRECTORY
@@ -71,10 +72,18 @@ Section
   WriteRegDWORD HKLM "${UNINSTALL_KEY}" NoRepair 1
 SectionEnd
 
-; The files that were installed and nothing else, wherever that was. What users have set and saved stays theirs.
+; The files that were installed and nothing else, wherever that was, or none while the program runs. What users have set
+; and saved stays theirs.
 Section Uninstall
   SetRegView 64
   SetShellVarContext all
+  StrCpy $0 "$INSTDIR\bin\orvanbeg.exe"
+  again:
+  ClearErrors
+  Delete $0
+  IfErrors 0 +3
+    MessageBox MB_RETRYCANCEL|MB_ICONSTOP "$(^FileError_NoIgnore)" /SD IDCANCEL IDRETRY again
+    Abort
   !include "${REMOVAL}"
   Delete "$INSTDIR\uninstall.exe"
   RMDir "$INSTDIR"
