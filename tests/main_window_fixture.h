@@ -9,6 +9,7 @@
 #include "../core/points.h"
 #include "../core/rolls.h"
 #include "../mainwindow/main_window.h"
+#include "hands.h"
 #include "keyboard.h"
 #include "numbered_program.h"
 #include "scripted_services.h"
@@ -18,18 +19,20 @@ namespace tests {
 
 inline constexpr platform::Modifiers kShift{.Shift = true}, kCtrl{.Control = true};
 
-class MainWindowTest : public TemporaryFolder {
+class MainWindowTest : public TemporaryFolder, protected Hands {
  protected:
-  MainWindowTest() { EXPECT_EQ(window.Load(), mainwindow::Started::Yes); }
+  void SetUp() override { ASSERT_EQ(window.Load(), mainwindow::Started::Yes); }
 
   /// Types keys as fast as can be: they arrive at the main window before a dialog has the keyboard.
   void Type(const std::string& keys, platform::Modifiers with = {}) {
     for (const char key : keys) Press(static_cast<unsigned char>(key), with);
   }
   void Press(platform::KeyCode code, platform::Modifiers with = {}) {
-    if (platform::Form* form = window.Desktop.KeyReceiver(window.F1)) Key(*form, code, with);
+    platform::Form* form = window.Desktop.KeyReceiver(window.F1);
+    if (form) KeyDown(*form, code, with);
+    if (form) KeyUp(*form, code, with);
   }
-  void Choose(const char* menuItem) { window.F1.ClickMenu((*window.F1.MenuBar)[menuItem]); }
+  void Choose(const char* menuItem) { ClickMenu(window.F1, (*window.F1.MenuBar)[menuItem]); }
   std::string Caption(const char* menuItem) { return (*window.F1.MenuBar)[menuItem].Caption; }
   /// Leaves every dialog, by Esc, Enter or the close box.
   void LeaveAll() {
