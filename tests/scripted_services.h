@@ -33,7 +33,7 @@ class ScriptedServices : public platform::Services {
   std::vector<std::string> Printers;
   std::pair<std::string, platform::Surface> Printed;  ///< printer and page
   bool PrinterFails = false;
-  platform::Version Version{3, 1, 302};
+  platform::Version Version{3, 0, 302};
   std::string ChosenFile;                 ///< empty: the file dialog is cancelled
   std::set<std::string> MissingPictures;  ///< by name
   std::filesystem::path Folder;           ///< the program's
