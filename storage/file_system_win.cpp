@@ -11,7 +11,8 @@ namespace {
 
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 constexpr DWORD kKeptAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
-constexpr DWORD kLongestWait = 256;  // milliseconds, twice the wait before it
+constexpr DWORD kQuotaExceeded = 1295;  // on the disk; the headers lack it
+constexpr DWORD kLongestWait = 256;     // milliseconds, twice the wait before it
 
 WriteFailure KindOf(DWORD error) {
   switch (error) {
@@ -28,7 +29,7 @@ WriteFailure KindOf(DWORD error) {
     case ERROR_WRITE_PROTECT: return WriteFailure::NotAllowed;
     case ERROR_DISK_FULL:
     case ERROR_HANDLE_DISK_FULL:
-    case ERROR_DISK_QUOTA_EXCEEDED:
+    case kQuotaExceeded:
     case ERROR_FILE_TOO_LARGE: return WriteFailure::NoRoom;
     case ERROR_FILE_EXISTS:
     case ERROR_ALREADY_EXISTS: return WriteFailure::Taken;

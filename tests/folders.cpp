@@ -1,8 +1,14 @@
 #include "folders.h"
 
 namespace tests {
+namespace {
 
-std::filesystem::path RunFolder() { return ORVANBEG_SOURCE_FOLDER "/run"; }
-std::filesystem::path PicturesFolder() { return ORVANBEG_SOURCE_FOLDER "/tests/pictures"; }
+/// With its drive, where a system has some, since the program leaves the folder that it was started in.
+const std::filesystem::path kSource = std::filesystem::absolute(ORVANBEG_SOURCE_FOLDER);
+
+}  // namespace
+
+std::filesystem::path RunFolder() { return kSource / "run"; }
+std::filesystem::path PicturesFolder() { return kSource / "tests/pictures"; }
 
 }  // namespace tests

@@ -7,7 +7,6 @@
 #include <string>
 
 #include "../core/texts.h"
-#include "folders.h"
 
 namespace tests {
 
@@ -25,7 +24,6 @@ inline std::filesystem::path MakeNumberedProgram(const std::filesystem::path& fo
   for (int text = 1; text <= core::text::PlayersAfterNumber; ++text) {
     file << (text == core::text::LanguageCode ? "en" : Numbered(text)) << "\r\n";
   }
-  std::filesystem::create_directory_symlink(RunFolder() / "img", folder / "img");
   return folder;
 }
 

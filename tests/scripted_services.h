@@ -69,7 +69,7 @@ class ScriptedServices : public platform::Services {
   std::string PdfOf(const platform::Page& page) override { return std::to_string(page.Drawing.Steps().size()); }
   platform::Version ProgramVersion() override { return Version; }
   bool CanShow(const platform::Picture& picture) override {
-    return !MissingPictures.contains(picture.Name) && (picture.IsResource || exists(Folder / picture.Name));
+    return !MissingPictures.contains(picture.Name) && (picture.IsResource || exists(RunFolder() / picture.Name));
   }
   double Random() override { return Next(RandomNumbers, 0.0); }
   std::filesystem::path ProgramFolder() override { return Folder; }

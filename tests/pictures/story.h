@@ -92,7 +92,7 @@ class Stories : public MainWindowTest, public testing::WithParamInterface<std::s
       return services.Answers.push_back(name == "yes" ? platform::Answer::Yes : platform::Answer::No);
     if (verb == "random") return services.RandomNumbers.push_back(std::stod(name));
     if (verb == "choose")
-      return static_cast<void>(services.ChosenFile = name == "nothing" ? "" : (Folder / name).string());
+      return static_cast<void>(services.ChosenFile = name == "nothing" ? "" : storage::TextOf(Folder / name));
     FAIL() << "no step: " << verb;
   }
   /// Loads the game as it is but for lines of its file, such as "2=Ada 3=4".
@@ -103,10 +103,12 @@ class Stories : public MainWindowTest, public testing::WithParamInterface<std::s
     for (std::string change; changes >> change;) {
       lines.at(std::stoul(change) - 1) = change.substr(change.find('=') + 1) + "\r\n";
     }
-    services.ChosenFile = (Folder / "changed.obg").string();
-    Put(services.ChosenFile, std::accumulate(lines.begin(), lines.end(), std::string()));
+    const std::filesystem::path changed = Folder / "changed.obg";
+    services.ChosenFile = storage::TextOf(changed);
+    Put(changed, std::accumulate(lines.begin(), lines.end(), std::string()));
     Choose("mnuFileLoad");
-    std::filesystem::remove(std::exchange(services.ChosenFile, ""));
+    services.ChosenFile.clear();
+    remove(changed);
   }
   /// A window, or the page that was printed last.
   void Show(const std::string& name) {
@@ -170,13 +172,18 @@ class Stories : public MainWindowTest, public testing::WithParamInterface<std::s
     return nullptr;
   }
 
+  static std::string WithSlashes(std::string path) {
+    std::ranges::replace(path, '\\', '/');
+    return path;
+  }
   /// What stories leave to the pictures: places, grounds, borders, tooltips; the temporary folder has no name.
   std::string Plain(const std::string& line) const {
     static const std::regex kLook(
         " -?[0-9.]+,-?[0-9.]+ [0-9]+x[0-9]+| on [0-9A-F]{6}| tip \"[^\"]*\"| border [0-9]| clear");
     std::string plain = std::regex_replace(line, kLook, "");
-    for (auto at = plain.find(Folder); at != std::string::npos; at = plain.find(Folder))
-      plain.erase(at, Folder.string().size());
+    const std::string folder = WithSlashes(storage::TextOf(Folder / ""));
+    for (auto at = plain.find(folder); at != std::string::npos; at = plain.find(folder))
+      plain.replace(at, folder.size(), "/");
     return plain;
   }
   /// Each line that is no drawing, under the name of its owner and its own first word.
@@ -217,7 +224,7 @@ class Stories : public MainWindowTest, public testing::WithParamInterface<std::s
     state["awake"] = services.ScreenAwake ? "the screen stays on" : "the screen may go dark";
     for (std::size_t i = 0; i < services.Boxes.size(); ++i) {
       const ScriptedServices::Box& box = services.Boxes[i];
-      state["box " + std::to_string(i)] = "box" + Quoted(" ", box.Text) + Quoted(" ", box.Title) +
+      state["box " + std::to_string(i)] = "box" + Quoted(" ", WithSlashes(box.Text)) + Quoted(" ", box.Title) +
                                           Flag(" Yes/No", box.Buttons == platform::Buttons::YesNo);
     }
     for (std::size_t i = 0; i < services.FileDialogs.size(); ++i) {

@@ -28,7 +28,7 @@ TEST_P(RandomEvening, KeepsWhatMustAlwaysHold) {
 class HostileEvening : public RandomEvening {
  protected:
   HostileEvening() {
-    chance.ChosenFile = Folder / "hostile.obg";
+    chance.ChosenFile = storage::TextOf(Folder / "hostile.obg");
     chance.BeforeAFileIsChosen = [this] {
       core::State state = games_.Next();
       if (chance.Percent(20)) state.game.GameType = games_.Number();

@@ -12,9 +12,11 @@ using storage::GameCopy;
 using testing::ElementsAre;
 
 struct CopiesTest : TemporaryFolder {
-  static constexpr std::time_t kDay = 86400, kNoon = 12 * 3600;
-  static void SetUpTestSuite() { setenv("TZ", "UTC", 1), tzset(); }
-  GameCopy Game(int day = 0) const { return {Folder / "copies", day * kDay + kNoon}; }
+  GameCopy Game(int day = 0) const {
+    std::tm noon = {};
+    noon.tm_year = 70, noon.tm_mday = 1 + day, noon.tm_hour = 12, noon.tm_isdst = -1;
+    return {Folder / "copies", std::mktime(&noon)};
+  }
 };
 
 TEST_F(CopiesTest, EachGameHasAFileOfItsOwnByDateTimeAndTitle) {

@@ -38,7 +38,7 @@ TEST_F(PlacesTest, AnInstalledProgramWritesNothingBesideItAndTakesTheUsersLangua
   EXPECT_EQ(Now().SettingsFile(), own / "orvanbeg.ini") << "although the others could be written";
   EXPECT_EQ(Now().SettingsToRead(), files / "orvanbeg.ini") << "for all users, as long as this one has none";
   EXPECT_EQ(Now().FirstFolder(), Folder / "documents");
-  std::filesystem::create_symlink("nowhere", ownLanguage);
+  std::filesystem::create_directory(ownLanguage);
   EXPECT_EQ(Now().LanguageFile(), ownLanguage) << "the user is told that it cannot be read";
   Put(program / "language.ini", "");
   EXPECT_EQ(Now().LanguageFile(), program / "language.ini") << "not installed";

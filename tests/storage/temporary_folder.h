@@ -2,19 +2,24 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
 
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <set>
 #include <string>
+
+#include "../../storage/path_text.h"
 
 namespace tests {
 
 class TemporaryFolder : public testing::Test {
  protected:
-  ~TemporaryFolder() override { std::filesystem::remove_all(Folder); }
+  ~TemporaryFolder() override {
+    std::filesystem::current_path(Folder.parent_path());  // the program may have gone into it
+    std::filesystem::remove_all(Folder);
+  }
 
   static void Put(const std::filesystem::path& path, const std::string& bytes) {
     std::ofstream(path, std::ios::binary) << bytes;
@@ -26,13 +31,19 @@ class TemporaryFolder : public testing::Test {
   /// All that is in the folder or one below it.
   std::set<std::string> Names(const std::string& below = {}) const {
     std::set<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(Folder / below)) names.insert(entry.path().filename());
+    for (const auto& entry : std::filesystem::directory_iterator(Folder / below)) {
+      names.insert(storage::TextOf(entry.path().filename()));
+    }
     return names;
   }
 
   const std::filesystem::path Folder = [] {
-    std::string name = (std::filesystem::temp_directory_path() / "orvanbeg-XXXXXX").string();
-    return std::filesystem::path(mkdtemp(name.data()));
+    for (std::random_device chance;;) {  // with letters of two code pages
+      const auto name = storage::PathOf("orvanbeg-Łüя-" + std::to_string(chance()));
+      if (create_directory(std::filesystem::temp_directory_path() / name)) {
+        return std::filesystem::temp_directory_path() / name;
+      }
+    }
   }();
 };
 
