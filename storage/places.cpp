@@ -25,8 +25,13 @@ bool IsTaken(const path& file) {
   return std::filesystem::exists(std::filesystem::symlink_status(file, unknown));
 }
 
-/// Counted from the executable, so that an installation can be moved as a whole.
-path InstalledFiles(const path& program) { return (program / ORVANBEG_INSTALLED_FILES).lexically_normal(); }
+/// Counted from the executable, so that an installation can be moved as a whole. Step by step: made normal as a whole,
+/// a path that begins with the name of a server would lose it.
+path InstalledFiles(path program) {
+  for (const path& step : path(ORVANBEG_INSTALLED_FILES))
+    program = step == ".." ? program.parent_path() : program / step;
+  return program;
+}
 
 bool IsInstalled(const path& program) {
   std::error_code unknown;

@@ -1,4 +1,4 @@
-// What hangs on the height of the window's frame.
+// What hangs on the height of the window's frame, and a text too long to be shown.
 #include "../drawn.h"
 #include "../main_window_fixture.h"
 
@@ -22,6 +22,13 @@ TEST_F(StartTest, ATallFrameLeavesTheClocksInTheWindow) {
     window.F1.timSpielzeit.Elapsed();
     EXPECT_THAT(Drawn(window.F1.Drawing).back(), testing::HasSubstr(std::string(",") + y + " 'PAUSE'"));
   }
+}
+
+TEST_F(StartTest, OfALongTextTheBeginningIsShownWithAMark) {
+  const std::string line(40000, 'x');
+  Put(Folder / "tastatur.txt", "tw\xF6\n" + line + "\n" + line);
+  Choose("mnuHelpKeys");
+  EXPECT_EQ(window.F2.txtInfo.Text.Get(), "\r\ntwö\r\n" + line + "\r\n" + window.State.Text(177));
 }
 
 }  // namespace
