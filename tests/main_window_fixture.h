@@ -19,7 +19,7 @@ namespace tests {
 
 inline constexpr platform::Modifiers kShift{.Shift = true}, kCtrl{.Control = true};
 
-class MainWindowTest : public TemporaryFolder, protected Hands {
+class MainWindowTest : public TemporaryFolder, protected virtual Hands {
  protected:
   void SetUp() override { ASSERT_EQ(window.Load(), mainwindow::Started::Yes); }
 
@@ -29,6 +29,7 @@ class MainWindowTest : public TemporaryFolder, protected Hands {
   }
   void Press(platform::KeyCode code, platform::Modifiers with = {}) {
     platform::Form* form = window.Desktop.KeyReceiver(window.F1);
+    if (!form) form = window.Desktop.Front();  // which has the keyboard where windows are shown
     if (form) KeyDown(*form, code, with);
     if (form) KeyUp(*form, code, with);
   }

@@ -32,26 +32,29 @@ inline std::string Keys(const platform::Shortcut& keys) {
                        : std::to_string(keys.Code));
 }
 
-/// What only this kind of control has.
+/// Of a control of a kind that has one; else null.
+inline const std::string* CaptionOf(const platform::Control& control) {
+  using namespace platform;
+  if (const auto* label = dynamic_cast<const Label*>(&control)) return &label->Caption.Get();
+  if (const auto* button = dynamic_cast<const CommandButton*>(&control)) return &button->Caption.Get();
+  if (const auto* box = dynamic_cast<const CheckBox*>(&control)) return &box->Caption.Get();
+  if (const auto* option = dynamic_cast<const OptionButton*>(&control)) return &option->Caption.Get();
+  const auto* frame = dynamic_cast<const Frame*>(&control);
+  return frame ? &frame->Caption.Get() : nullptr;
+}
+
+/// What only this kind of control has, beside a caption.
 inline std::string OfItsKind(const platform::Control& control) {
   using namespace platform;
-  if (const auto* label = dynamic_cast<const Label*>(&control))
-    return Quoted(" ", label->Caption) + Aligned(label->Align);
-  if (const auto* frame = dynamic_cast<const Frame*>(&control)) return Quoted(" ", frame->Caption);
-  if (const auto* button = dynamic_cast<const CommandButton*>(&control)) {
-    return Quoted(" ", button->Caption) + Shown(button->Image) + Flag(" default", button->Default) +
-           Flag(" cancel", button->Cancel);
-  }
+  if (const auto* label = dynamic_cast<const Label*>(&control)) return Aligned(label->Align);
+  if (const auto* button = dynamic_cast<const CommandButton*>(&control))
+    return Shown(button->Image) + Flag(" default", button->Default) + Flag(" cancel", button->Cancel);
   if (const auto* text = dynamic_cast<const TextBox*>(&control)) {
     return Quoted(" text ", text->Text) + Aligned(text->Align) + Flag(" read-only", text->ReadOnly) +
            Flag(" of lines", text->MultiLine) + Quoted(" notice ", text->Notice);
   }
-  if (const auto* box = dynamic_cast<const CheckBox*>(&control)) {
-    return Quoted(" ", box->Caption) + (box->Value == 1 ? " [x]" : " [ ]");
-  }
-  if (const auto* option = dynamic_cast<const OptionButton*>(&control)) {
-    return Quoted(" ", option->Caption) + (option->Value ? " (o)" : " ( )");
-  }
+  if (const auto* box = dynamic_cast<const CheckBox*>(&control)) return box->Value == 1 ? " [x]" : " [ ]";
+  if (const auto* option = dynamic_cast<const OptionButton*>(&control)) return option->Value ? " (o)" : " ( )";
   if (const auto* combo = dynamic_cast<const ComboBox*>(&control)) {
     std::string line = Quoted(" text ", combo->Text);
     for (const std::string& item : combo->List()) line += Quoted(" | ", item);
@@ -67,9 +70,10 @@ inline std::string OfItsKind(const platform::Control& control) {
 inline std::string Described(const platform::Control& control, const platform::Control* focus) {
   const platform::Place place = control.Position;
   const platform::Font face = control.Face;
+  const std::string* const caption = CaptionOf(control);
   return control.Name + " " + At(place.Left, place.Top) + " " + std::to_string(place.Width) + "x" +
-         std::to_string(place.Height) + OfItsKind(control) + Flag(" hidden", !control.Visible) +
-         Flag(" disabled", !control.Enabled) + Flag(" focus", &control == focus) +
+         std::to_string(place.Height) + Quoted(" ", caption ? *caption : "") + OfItsKind(control) +
+         Flag(" hidden", !control.Visible) + Flag(" disabled", !control.Enabled) + Flag(" focus", &control == focus) +
          (face == platform::Font{} ? "" : " " + face.Name + " " + Number(face.Size) + Flag("+", face.Bold)) +
          Quoted(" tip ", control.ToolTipText) + Quoted(" spoken ", control.SpokenName);
 }

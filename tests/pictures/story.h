@@ -201,7 +201,7 @@ class Stories : public MainWindowTest, public testing::WithParamInterface<std::s
       lines += mark + std::to_string(++number) + " " + line + "\n";
     return lines;
   }
-  State Now() {
+  virtual State Now() {
     State state;
     for (const platform::Form* form : window.Desktop.Forms()) {
       state[form->Name] = form->Visible ? form->Name + " is open" : form->Name + " is gone";
@@ -216,6 +216,7 @@ class Stories : public MainWindowTest, public testing::WithParamInterface<std::s
         state["file " + name] = "file " + name + ", " + std::to_string(file_size(Folder / name)) + " bytes";
     }
     state["ended"] = ended_;
+    state["view"] = ViewOffence();
     state["theme"] = window.F1.Image.Get().Name;
     state["strip"] = "strip" + Quoted(" ", window.F1.Drawing.Spoken());
     state["clock"] = Caption("mnuExtraClock");

@@ -1,6 +1,5 @@
 // What the toolkit's events become: key codes, clicks on pictures, typed texts, options and check boxes.
 #include <QAccessible>
-#include <QCheckBox>
 #include <QLineEdit>
 
 #include "../../platform/qt/key_codes.h"
@@ -75,24 +74,6 @@ TEST_F(Input, TextCountsByWhateverWayItCame) {
   Type(Window.F5, Qt::Key_Return);
   EXPECT_EQ(Window.State.game.Players[1].Name, "José");
   EXPECT_EQ(Window.State.game.Players[1].Settlements, 7);
-}
-
-TEST_F(Input, MarksFollowTheModel) {
-  Window.F20.OpenNewGame();
-  Click(Window.F20.chkFlo);
-  Click(Window.F20.optB);
-  EXPECT_FALSE(Window.F20.optA.Value);
-  WidgetOf(Window.F20.cmdA(0)).setFocus();
-  Type(Window.F20, Qt::Key_Space);
-  EXPECT_EQ(Window.F20.txtneuSPBed.Text.Get(), "12");
-  EXPECT_TRUE(static_cast<QCheckBox&>(WidgetOf(Window.F20.chkFlo)).isChecked());
-}
-
-TEST_F(Input, InTheDiceDialogSpaceAndEnterPressNoFocusedButton) {
-  Window.F7.PrepareDiceDialog();
-  WidgetOf(Window.F7.cmdNoOK).setFocus();
-  for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return}) Type(Window.F7, key);
-  EXPECT_TRUE(Window.F7.Visible);
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 
 #include "../../core/points.h"
 #include "../../mainwindow/main_window.h"
+#include "../hands.h"
 #include "../scripted_services.h"
 #include "../storage/temporary_folder.h"
 
@@ -53,7 +54,7 @@ struct ChanceServices : ScriptedServices {
   double Random() override { return Below(1000) / 1000.0; }
 };
 
-class RandomEvening : public TemporaryFolder, public testing::WithParamInterface<unsigned> {
+class RandomEvening : public TemporaryFolder, public testing::WithParamInterface<unsigned>, protected virtual Hands {
  protected:
   RandomEvening() {
     chance.Generator.seed(GetParam());
@@ -79,26 +80,13 @@ class RandomEvening : public TemporaryFolder, public testing::WithParamInterface
     }
   }
 
-  // How what the user does reaches a form.
-  virtual void KeyDown(Form& form, KeyCode code, Modifiers with) { form.KeyPress(code, with); }
-  virtual void KeyUp(Form& form, KeyCode code, Modifiers with) { form.KeyRelease(code, with); }
-  virtual void ClickOn(Control& control, MouseButton button) {
-    if (button == MouseButton::Left) control.Owner()->Click(control);
-    control.Owner()->MouseUp(control, button);
-  }
-  virtual void ClickTool(ToolBar& bar, int index) { bar.Owner()->ClickTool(bar, index); }
-  virtual void ClickMenu(MenuItem& item) { window.F1.ClickMenu(item); }
-  virtual void Pick(ComboBox& combo, int index) { combo.Owner()->Pick(combo, index); }
-  virtual void Write(Control& control, const std::string& text) { control.Owner()->Type(control, text); }
-  virtual void PressCloseBox(Form& form) { form.PressCloseBox(); }
-
   // What the user does; each tells in a few words what it was.
   std::string AnyEvent() {
     const int kind = chance.Below(100);
     if (kind < 40) return AnyKey();
     if (kind < 80) return Clicked(AnyControl(), chance.Percent(60) ? MouseButton::Left : chance.Of(kOtherButtons));
     if (kind < 84) return AnyText();
-    if (kind < 88) return ClickMenu(chance.Of(window.F1.MenuBar->Items())), "menu";
+    if (kind < 88) return ClickMenu(window.F1, chance.Of(window.F1.MenuBar->Items())), "menu";
     if (kind < 90) return PressCloseBox(AnyForm()), "close box";
     if (window.F8.Visible && chance.Percent(50)) return MendedSettings();
     return window.F1.timSpielzeit.Elapsed(), "tick";
@@ -159,7 +147,9 @@ class RandomEvening : public TemporaryFolder, public testing::WithParamInterface
   }
 
   // What must always hold; the answer is what does not, or nothing.
-  virtual std::string Offence() { return LockOffence() + GameOffence() + LogOffence() + SilenceOffence(); }
+  virtual std::string Offence() {
+    return ViewOffence() + LockOffence() + GameOffence() + LogOffence() + SilenceOffence();
+  }
   std::string LockOffence() {
     int open = 0, locking = 0;
     for (const Form* form : window.Desktop.Forms()) {
