@@ -1,4 +1,4 @@
-// The way of keys and clicks to forms and controls.
+// The way of keys and clicks to forms and controls, and of pictures to a surface.
 #include <gtest/gtest.h>
 
 #include "../../platform/desktop.h"
@@ -134,6 +134,12 @@ TEST_F(RoutingTest, KeysForTheLockedWindowGoToTheFormShownJustNow) {
   form.Enabled = true;
   desktop.Activated(form);
   EXPECT_EQ(desktop.KeyReceiver(other), &form) << "a hidden window's keys are those of the form in front";
+}
+
+TEST(SurfaceTest, KeepsNoStepOfAMissingPicture) {
+  Surface surface;
+  surface.PaintPicture({}, 0, 0);
+  EXPECT_TRUE(surface.Steps().empty());
 }
 
 }  // namespace
