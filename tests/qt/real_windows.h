@@ -22,9 +22,7 @@ class RealWindows : public testing::Test, protected Program, protected WidgetHan
     QTest::keyClick(WindowOf(form).windowHandle(), key, with);
   }
   void Click(platform::Control& control, Qt::MouseButton button = Qt::LeftButton) {
-    QWidget& widget = WidgetOf(control);
-    const QPoint at = widget.mapTo(widget.window(), widget.rect().center());
-    QTest::mouseClick(widget.window()->windowHandle(), button, {}, at);
+    ClickAt(WidgetOf(control), WidgetOf(control).rect().center(), button);
   }
 };
 
