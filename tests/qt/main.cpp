@@ -4,7 +4,8 @@
 #include "../../platform/qt/application.h"
 
 int main(int count, char** arguments) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  // Windows measures type on its own screen only.
+  if (QSysInfo::kernelType() != "winnt") qputenv("QT_QPA_PLATFORM", "offscreen");
   testing::InitGoogleMock(&count, arguments);
   if (GTEST_FLAG_GET(list_tests)) return RUN_ALL_TESTS();  // while it is built
   const QApplication application(count, arguments);
