@@ -30,8 +30,8 @@ class HostileEvening : public RandomEvening {
   HostileEvening() {
     chance.ChosenFile = storage::TextOf(Folder / "hostile.obg");
     chance.BeforeAFileIsChosen = [this] {
-      core::State state = games_.Next();
-      if (chance.Percent(20)) state.game.GameType = games_.Number();
+      core::State state = RandomState(games_);
+      if (chance.Percent(20)) state.game.GameType = static_cast<std::int16_t>(games_());
       if (chance.Percent(50)) state.game.DiceCount.fill(40);  // so that the log is read, with whatever it holds
       Put(chance.ChosenFile, storage::GameFileText(state));
       seen.insert("file");
@@ -40,7 +40,7 @@ class HostileEvening : public RandomEvening {
   std::string Offence() override { return LockOffence(); }
 
  private:
-  RandomState games_{GetParam()};
+  std::mt19937 games_{GetParam()};
 };
 
 TEST_P(HostileEvening, DoesNoHarm) {

@@ -8,7 +8,6 @@
 
 #include "random_state.h"
 
-namespace tests {
 namespace {
 
 using Lines = std::vector<std::string>;
@@ -24,10 +23,8 @@ Lines LinesOf(const core::State& state) {
   return lines;
 }
 
-std::string BytesOf(const Lines& lines) {
-  std::string bytes;
-  for (const std::string& line : lines) bytes += line + "\r\n";
-  return bytes;
+std::ptrdiff_t PlayersOf(const core::State& state) {
+  return std::ranges::count(core::WithoutPlaceZero(state.game.Players), true, &core::TPlayer::Active);
 }
 
 /// The first lines of one file and the rest of another.
@@ -40,7 +37,7 @@ Lines Mixed(Lines first, int count, const Lines& rest) {
 Lines FileOf(const std::string& version, const core::State& state) {
   Lines lines = LinesOf(state);
   lines[0] = version;
-  if (version == "OBGV30") lines.pop_back();
+  if (version == "OBGV30") lines.back() = "more";
   if (version >= "OBGV30") return lines;
   const std::string gameType = lines[1583], winPoints = lines[1587];
   lines.resize(83);
@@ -52,16 +49,12 @@ Lines FileOf(const std::string& version, const core::State& state) {
 
 class GameFileTest : public testing::Test, public storage::GameFileEvents {
  protected:
-  GameFileOutcome Read(const std::string& bytes) {
-    std::istringstream file(bytes);
+  GameFileOutcome Read(const Lines& lines) {
+    std::stringstream file;
+    for (const std::string& line : lines) file << line << "\r\n";
     Events.clear();
     State = Before;
     return storage::ReadGame(file, State, *this);
-  }
-  /// How many of the first seats are marked as playing in the saved game.
-  int SavedPlayers(int seats = core::kSeats) {
-    const auto first = Saved.game.Players.begin() + 1;
-    return static_cast<int>(std::ranges::count(first, first + seats, true, &core::TPlayer::Active));
   }
   void TellNotAGameFile() override { Events.push_back("no game"); }
   void TellOlderVersion() override { Events.push_back("older"); }
@@ -71,8 +64,8 @@ class GameFileTest : public testing::Test, public storage::GameFileEvents {
     return HasBackground;
   }
 
-  RandomState Random{2024};
-  core::State Before = Random.Next(), Saved = Random.Next(), State;
+  std::mt19937 Random{2024};
+  core::State Before = tests::RandomState(Random), Saved = tests::RandomState(Random), State;
   Lines Events;
   bool HasBackground = true;
 };
@@ -109,15 +102,15 @@ TEST_F(GameFileTest, EveryVersionSetsWhatItHoldsAndLeavesTheRest) {
       const std::string usualWinPoints = gameType == 2 ? "10" : gameType == 3 ? "13" : before[1587];
       expected[1587] = version == "OBGV21" ? usualWinPoints : saved[1587];
       if (version == "OBGV30") expected[1590] = "0";
-      EXPECT_EQ(Read(BytesOf(file) + "more\r\n"), GameFileOutcome::Whole);
+      EXPECT_EQ(Read(file), GameFileOutcome::Whole);
       EXPECT_EQ(LinesOf(State), expected);
       EXPECT_EQ(Events, withLog ? Lines({"background", "event die"}) : Lines({"older", "event die"}));
       EXPECT_EQ(State.game.Clock[1], withLog ? 0 : Before.game.Clock[1]);
-      EXPECT_EQ(State.game.NumPlayers, SavedPlayers());
+      EXPECT_EQ(State.game.NumPlayers, PlayersOf(Saved));
       EXPECT_EQ(State.game.FileVersion, version);
       EXPECT_EQ(State.game.LegacyRolls[5], withLog ? core::TRoll() : core::TRoll({16, 17, 18}));
       for (auto end = file.begin() + 1; end < file.end(); end += end - file.begin() < 110 ? 1 : 29) {
-        EXPECT_EQ(Read(BytesOf({file.begin(), end})), GameFileOutcome::Stopped) << end - file.begin();
+        EXPECT_EQ(Read({file.begin(), end}), GameFileOutcome::Stopped) << end - file.begin();
       }
     }
   }
@@ -136,30 +129,28 @@ TEST_F(GameFileTest, ALoadUnderstandsOtherWaysOfWritingAndStopsAtAFaultWithWhatW
       Lines file = saved, stopped = Mixed(saved, static_cast<int>(line), LinesOf(Before));
       file.at(line) = written;
       if (line == 1590) stopped.back() = "0";
-      EXPECT_EQ(Read(BytesOf(file)), understood.empty() ? GameFileOutcome::Stopped : GameFileOutcome::Whole);
+      EXPECT_EQ(Read(file), understood.empty() ? GameFileOutcome::Stopped : GameFileOutcome::Whole);
       EXPECT_THAT(LinesOf(State).at(line), testing::HasSubstr(understood));
       if (!understood.empty()) continue;
       EXPECT_EQ(LinesOf(State), stopped);
       EXPECT_EQ(Events, line >= kBackgroundLines ? Lines{"background"} : Lines{});
-      const int wholeSeats = static_cast<int>(line - 1) / 11;  // of 11 lines each
-      EXPECT_EQ(State.game.NumPlayers, SavedPlayers(std::min(wholeSeats, core::kSeats)));
+      EXPECT_EQ(State.game.NumPlayers, line < 67 ? 0 : PlayersOf(Saved)) << "of the seats read";
     }
   }
 }
 
 TEST_F(GameFileTest, WhatIsNoGameFileChangesNothingAndAMissingBackgroundStopsTheLoad) {
-  const std::string rest = storage::GameFileText(Saved).substr(6), endless(3'000'000, 'O');
+  const std::string endless(3'000'000, 'O');
   for (const std::string& magic : Lines{"obgv31", "OBGV31 ", "OBGV22", "\xEF\xBB\xBFOBGV31", "OBGV31\n", "", endless}) {
-    EXPECT_EQ(Read(magic + rest), GameFileOutcome::NotAGame) << magic.substr(0, 10);
+    EXPECT_EQ(Read(FileOf(magic, Saved)), GameFileOutcome::NotAGame) << magic.substr(0, 10);
     EXPECT_EQ(LinesOf(State), LinesOf(Before));
     EXPECT_THAT(Events, ElementsAre("no game"));
   }
-  EXPECT_EQ(Read(""), GameFileOutcome::Stopped);
+  EXPECT_EQ(Read({}), GameFileOutcome::Stopped);
   EXPECT_TRUE(Events.empty());
   HasBackground = false;
-  EXPECT_EQ(Read(storage::GameFileText(Saved)), GameFileOutcome::Stopped);
+  EXPECT_EQ(Read(LinesOf(Saved)), GameFileOutcome::Stopped);
   EXPECT_EQ(LinesOf(State), Mixed(LinesOf(Saved), kBackgroundLines, LinesOf(Before)));
 }
 
 }  // namespace
-}  // namespace tests

@@ -7,7 +7,6 @@
 #include <span>
 #include <sstream>
 
-namespace tests {
 namespace {
 
 /// A block whose text number n is the word and n.
@@ -35,9 +34,8 @@ std::string Read(const std::string& bytes) {
 
 TEST(LanguageFileTest, FindsBlocksAndTheirTexts) {
   const std::string ours = Block("Ours", "a"), wanted = Block("Wanted", "b"), mark = "#LANGUAGE\r\n";
-  std::string twelve, further;
+  std::string further;
   for (int i = 121; i <= 200; ++i) further += "f" + std::to_string(i) + "\r\n";
-  for (int i = 1; i <= 12; ++i) twelve += Block("L" + std::to_string(i), "x", 2);
   const std::tuple<const char*, std::string, std::string> cases[] = {
       {"second block, and lines between", "; x\r\n\r\n" + ours + "more\r\n" + wanted,
        "Ours,Wanted,: 118 texts, b1 to b118"},
@@ -47,21 +45,13 @@ TEST(LanguageFileTest, FindsBlocksAndTheirTexts) {
       {"no code, so no further texts", wanted + "DE\r\nyes\r\n" + further, "Wanted,: 118 texts, b1 to b118"},
       {"name before any mark", "Wanted\r\nx\r\n" + wanted, "Wanted,: 1 texts, x to "},
       {"earlier text equals the name", mark + "Ours\r\nWanted\r\nx\r\n" + wanted, "Ours,Wanted,: 1 texts, x to "},
-      {"mark in lower case", "#language\r\nOurs\r\n" + wanted, "Wanted,: 118 texts, b1 to b118"},
-      {"blank behind the mark", "#LANGUAGE \r\nOurs\r\n" + wanted, "Wanted,: 118 texts, b1 to b118"},
-      {"text like the mark", mark + "Wanted\r\na\r\n" + mark + "b\r\n", "Wanted,b,: 1 texts, a to "},
+      {"no marks", "#language\r\nOurs\r\n#LANGUAGE \r\nOurs\r\n" + wanted, "Wanted,: 118 texts, b1 to b118"},
       {"empty text", Block("Wanted\r\n", "b", 117), "Wanted,: 118 texts,  to b117"},
       {"short block", Block("Wanted", "b", 3) + ours, "Wanted,Ours,: 3 texts, b1 to "},
-      {"short block at the end", ours + Block("Wanted", "b", 117), "Ours,Wanted,: 117 texts, b1 to "},
-      {"no such language", ours, "Ours,: -1 texts, old to old, old old old"},
       {"mark as the last line", ours + "#LANGUAGE", "Ours,: -1 texts, old to old, old old old"},
       {"empty file", "", ": -1 texts, old to old, old old old"},
-      {"line feeds only", "#LANGUAGE\nWanted\nx\n", "Wanted,: 1 texts, x to "},
-      {"twelve blocks", twelve, "L1,L2,L3,L4,L5,L6,L7,L8,L9,L10,L11,L12,: -1 texts, old to old, old old old"},
-      {"line without end", mark + std::string(1'100'000, 'x') + "\r\n" + wanted,
-       ": -1 texts, old to old, old old old"}};
+      {"line feeds only", "#LANGUAGE\nWanted\nx\n", "Wanted,: 1 texts, x to "}};
   for (const auto& [what, bytes, found] : cases) EXPECT_EQ(Read(bytes), found) << what;
 }
 
 }  // namespace
-}  // namespace tests

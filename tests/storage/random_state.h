@@ -1,6 +1,7 @@
 // States that no game would lead to but a file can hold: any number in every field, any bytes in every text.
 #pragma once
 
+#include <algorithm>
 #include <random>
 
 #include "../../core/game_state.h"
@@ -8,40 +9,30 @@
 
 namespace tests {
 
-class RandomState {
- public:
-  explicit RandomState(unsigned seed) : random_(seed) {}
-
-  core::State Next() {
-    core::State state;
-    core::Game& game = state.game;
-    for (core::TPlayer& player : game.Players) {
-      player = {Text(), Number(), Number(), Flag(), Flag(), Flag(), Flag(), Flag(), Number(), Flag(), Flag()};
-    }
-    for (std::int16_t& count : game.DiceCount) count = Number();
-    for (std::int16_t& count : game.EventCount) count = Number();
-    for (core::TRoll& roll : game.DiceLog) roll = {Number(), Number(), Number()};
-    game.GameType = static_cast<std::int16_t>(Flag() ? core::kBaseGame : core::kFirstExpansion);
-    for (std::int16_t* number : {&game.OptFlottillen.Value, &game.OptScenario.Value, &state.settings.SiegAnzeige.Value,
-                                 &game.WinPoints, &game.Clock[0], &game.Clock[1], &game.NumPlayers}) {
-      *number = Number();
-    }
-    game.GameTitle = Text();
-    game.GameInfo = Text();
-    return state;
-  }
-  std::int16_t Number() { return static_cast<std::int16_t>(random_()); }
-  bool Flag() { return random_() % 2 == 0; }
-  /// Up to 20 characters, of all but the carriage return.
-  std::string Text() {
-    std::string bytes(random_() % 21, 0);
-    for (char& byte : bytes) byte = static_cast<char>(random_());
+inline core::State RandomState(std::mt19937& random) {
+  const auto flag = [&random] { return random() % 2 == 0; };
+  const auto number = [&random] { return static_cast<std::int16_t>(random()); };
+  const auto text = [&random] {  // up to 20 characters, of all but the carriage return
+    std::string bytes(random() % 21, 0);
+    std::ranges::generate(bytes, [&random] { return static_cast<char>(random()); });
     std::erase(bytes, '\r');
     return storage::FromCodePage(bytes);
+  };
+  core::State state;
+  core::Game& game = state.game;
+  for (core::TPlayer& player : game.Players) {
+    player = {text(), number(), number(), flag(), flag(), flag(), flag(), flag(), number(), flag(), flag()};
   }
-
- private:
-  std::mt19937 random_;
-};
+  std::ranges::generate(game.DiceCount, number);
+  std::ranges::generate(game.EventCount, number);
+  for (core::TRoll& roll : game.DiceLog) roll = {number(), number(), number()};
+  game.GameType = static_cast<std::int16_t>(flag() ? core::kBaseGame : core::kFirstExpansion);
+  for (std::int16_t* field : {&game.OptFlottillen.Value, &game.OptScenario.Value, &state.settings.SiegAnzeige.Value,
+                              &game.WinPoints, &game.Clock[0], &game.Clock[1], &game.NumPlayers}) {
+    *field = number();
+  }
+  for (std::string* field : {&game.GameTitle, &game.GameInfo}) *field = text();
+  return state;
+}
 
 }  // namespace tests

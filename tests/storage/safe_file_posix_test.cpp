@@ -55,13 +55,12 @@ extern "C" int renameat(int from, const char* name, int to, const char* newName)
   return Fails("rename") ? -1 : Real(renameat, "renameat")(from, name, to, newName);
 }
 
-namespace tests {
 namespace {
 
 using storage::WriteFailure;
 using testing::ElementsAre;
 
-class SafeFilePosixTest : public TemporaryFolder {
+class SafeFilePosixTest : public tests::TemporaryFolder {
  protected:
   SafeFilePosixTest() { g_system = {}; }
   WriteFailure Save(const std::string& bytes, const std::string& name = "game.obg") {
@@ -180,4 +179,3 @@ TEST_F(SafeFilePosixTest, FollowsLinksAndKeepsRightsAndLetsBeWhatIsNoNameOfAFile
 }
 
 }  // namespace
-}  // namespace tests

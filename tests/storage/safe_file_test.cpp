@@ -5,10 +5,9 @@
 
 #include "temporary_folder.h"
 
-namespace tests {
 namespace {
 
-using SafeFileTest = TemporaryFolder;
+using SafeFileTest = tests::TemporaryFolder;
 
 TEST_F(SafeFileTest, WritesWholeAnewAndInPlaceUnderNamesOfAnyLanguage) {
   const auto file = Folder / storage::PathOf("Żółw я ü.obg");
@@ -34,4 +33,3 @@ TEST_F(SafeFileTest, PlacesThatCannotBeWritten) {
 }
 
 }  // namespace
-}  // namespace tests

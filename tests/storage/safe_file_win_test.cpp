@@ -7,12 +7,11 @@
 #include "../../storage/evening_copies.h"
 #include "temporary_folder.h"
 
-namespace tests {
 namespace {
 
 using storage::WriteFailure;
 
-struct SafeFileWinTest : TemporaryFolder {
+struct SafeFileWinTest : tests::TemporaryFolder {
   WriteFailure Save(const char* name) { return storage::WriteWhole(Folder / name, "new").Failure; }
   /// Opens the file as a program that lets nobody else have it, and closes it after so many milliseconds.
   std::jthread Held(DWORD milliseconds) {
@@ -52,4 +51,3 @@ TEST_F(SafeFileWinTest, AFileThatIsOpenElsewhereForAMomentIsWaitedFor) {
 }
 
 }  // namespace
-}  // namespace tests

@@ -16,6 +16,7 @@ namespace tests {
 
 class TemporaryFolder : public testing::Test {
  protected:
+  TemporaryFolder() { create_directory(Folder); }
   ~TemporaryFolder() override {
     std::filesystem::current_path(Folder.parent_path());  // the program may have gone into it
     std::filesystem::remove_all(Folder);
@@ -37,14 +38,9 @@ class TemporaryFolder : public testing::Test {
     return names;
   }
 
-  const std::filesystem::path Folder = [] {
-    for (std::random_device chance;;) {  // with letters of two code pages
-      const auto name = storage::PathOf("orvanbeg-Łüя-" + std::to_string(chance()));
-      if (create_directory(std::filesystem::temp_directory_path() / name)) {
-        return std::filesystem::temp_directory_path() / name;
-      }
-    }
-  }();
+  const std::filesystem::path Folder =  // with letters of two code pages
+      std::filesystem::temp_directory_path() /
+      storage::PathOf("orvanbeg-Łüя-" + std::to_string(std::random_device()()));
 };
 
 }  // namespace tests

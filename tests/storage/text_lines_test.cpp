@@ -6,7 +6,6 @@
 #include "../../storage/code_page.h"
 #include "../../storage/text_lines.h"
 
-namespace tests {
 namespace {
 
 TEST(CodePageTest, CharactersHaveTheBytesOfWindows1252AndAllBytesSurvive) {
@@ -52,4 +51,3 @@ TEST(LineReaderTest, LinesEndWhereTheKindOfFileSays) {
 }
 
 }  // namespace
-}  // namespace tests
