@@ -1,18 +1,20 @@
-// What is drawn: every drawing that the forms hold can be loaded at its size, and a list of steps becomes the pixels
-// that it tells of, at any resolution.
-#include <gtest/gtest.h>
-
-#include <QImage>
+// What is drawn: every drawing that the forms hold can be loaded at its size, a list of steps becomes the pixels that
+// it tells of, at any resolution, and painting only what has changed gives the same as painting all of it.
+#include <QBitmap>
 #include <QTemporaryDir>
+#include <random>
 
 #include "../../platform/qt/pictures.h"
 #include "../../platform/qt/replay.h"
+#include "../../platform/qt/screen_drawing.h"
 #include "../../windows/image_lists.h"
+#include "real_windows.h"
 
 namespace {
 
 using platform::Colour;
 using platform::Surface;
+using platform::qt::InTwips;
 using platform::qt::ReadImageFile;
 using platform::qt::ToQt;
 
@@ -20,7 +22,7 @@ constexpr Colour kInk{255, 0, 0};
 
 QImage Painted(const Surface& surface, const platform::qt::Measure& measure = platform::qt::InPixels(),
                qreal scale = 1) {
-  QImage image(QSize(80, 40) * scale, QImage::Format_RGB32);
+  QImage image(QSize(240, 120) * scale, QImage::Format_RGB32);
   image.setDevicePixelRatio(scale);
   image.fill(Qt::white);
   QPainter painter(&image);
@@ -28,15 +30,10 @@ QImage Painted(const Surface& surface, const platform::qt::Measure& measure = pl
   return image;
 }
 
-/// The pixels that are not ground, as the smallest rectangle round them.
+/// The smallest rectangle round the pixels that are not as the last one.
 QRect Inked(const QImage& image) {
-  QRect found;
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) {
-      if (image.pixelColor(x, y) != QColor(Qt::white)) found |= QRect(x, y, 1, 1);
-    }
-  }
-  return found;
+  const QRgb ground = image.pixel(image.width() - 1, image.height() - 1);
+  return QRegion(QBitmap::fromImage(image.createMaskFromColor(ground, Qt::MaskInColor))).boundingRect();
 }
 
 TEST(Pictures, AllDrawingsOfTheFormsLoadAtTheirSize) {
@@ -80,35 +77,74 @@ TEST(Pictures, OfAFileThatIsAPictureTheTopLeftPartIsDecoded) {
   EXPECT_TRUE(ReadImageFile(path).isNull());
 }
 
-TEST(Replay, BoxesReachUpToTheirSecondCornerAndAreNeverEmpty) {
-  // The second is drawn from below, the third without length, the last as only hostile counts can bring about.
-  const std::tuple<double, double, double, double, QRect> rows[] = {{10, 4, 30, 6, {10, 4, 20, 2}},
-                                                                    {10, 17, 30, 15, {10, 15, 20, 2}},
-                                                                    {12, 3, 12, 18, {12, 3, 1, 15}},
-                                                                    {-5, 0, 3, 2, {0, 0, 3, 2}},
-                                                                    {10, 0, 9e9, 2, {10, 0, 70, 2}}};
-  for (const auto& [x1, y1, x2, y2, pixels] : rows) {
+TEST(Replay, StepsKeepTheirPlacesAndReachUpToTheirSecondCornerAtAnyResolution) {
+  const platform::qt::Measure pixels = platform::qt::InPixels(), twips = InTwips();
+  const platform::qt::Measure larger{.scale = 1.25, .onScreen = true};  // every rule is equally thick in it
+  using Draw = decltype(&Surface::Line);
+  constexpr Draw kBox = &Surface::FillBox, kRule = &Surface::Line;
+  // The second is drawn from below, the third without length, the fifth as only hostile counts can bring about.
+  const std::tuple<Draw, std::array<double, 4>, platform::qt::Measure, double, QRect> rows[] = {
+      {kBox, {10, 4, 30, 6}, pixels, 1, {10, 4, 20, 2}},      {kBox, {10, 17, 30, 15}, pixels, 1, {10, 15, 20, 2}},
+      {kBox, {12, 3, 12, 18}, pixels, 1, {12, 3, 1, 15}},     {kBox, {-5, 0, 3, 2}, pixels, 1, {0, 0, 3, 2}},
+      {kBox, {10, 0, 9e9, 2}, pixels, 1, {10, 0, 230, 2}},    {kRule, {150, 60, 300, 60}, twips, 1, {10, 4, 10, 1}},
+      {kRule, {150, 60, 300, 60}, twips, 3, {30, 12, 30, 3}}, {kRule, {3, 0, 3, 20}, larger, 1.5, {6, 0, 2, 38}},
+      {kRule, {10, 0, 10, 20}, larger, 1.5, {19, 0, 2, 38}},  {kRule, {23, 0, 23, 20}, larger, 1.5, {43, 0, 2, 38}},
+      {kRule, {38, 0, 38, 20}, larger, 1.5, {71, 0, 2, 38}},
+  };
+  for (const auto& [draw, at, measure, scale, inked] : rows) {
     Surface surface;
-    surface.FillBox(x1, y1, x2, y2, kInk);
-    EXPECT_EQ(Inked(Painted(surface)), pixels) << x1 << " to " << x2;
+    (surface.*draw)(at[0], at[1], at[2], at[3], kInk);
+    EXPECT_EQ(Inked(Painted(surface, measure, scale)), inked) << at[0] << " to " << at[2];
   }
 }
 
-TEST(Replay, TwipsAndScaledScreensKeepThePlace) {
+/// A drawing of which each step is, one time in four, another than in the one before.
+void DrawByChance(std::mt19937& chance, std::vector<std::uint_fast32_t>& seeds, Surface& surface) {
+  if (chance() % 4 == 0) seeds.resize(chance() % 12, chance());
+  surface.Cls();
+  for (std::uint_fast32_t& seed : seeds) {
+    if (chance() % 4 == 0) seed = chance();
+    std::mt19937 step(seed);
+    const auto number = [&step](unsigned below) { return static_cast<int>(step() % below); };
+    const int x = 15 * number(240) - 300, y = number(1800) - 300, to = 15 * number(120);
+    surface.ForeColor = platform::Colour{static_cast<unsigned char>(number(256)), 200, 100};
+    surface.FontSize = 8 + number(24);
+    surface.FontBold = number(2) == 0;
+    surface.FontName = number(2) == 0 ? "Arial" : "Verdana";
+    switch (number(6)) {
+      case 0: surface.FillBox(x, y, to, to, surface.ForeColor); break;
+      case 1: surface.Box(x, y, to, to, surface.ForeColor); break;
+      case 2: surface.Line(x, y, to, to, surface.ForeColor); break;
+      case 3: surface.PaintPicture(windows::imlW.Image(1 + number(19)), x, y); break;
+      case 4: surface.PrintWithin(x, y, 30, std::to_string(seed)); break;
+      default: surface.PrintAt(x, y, number(2) == 0 ? "ÅÖjfŒ W" : std::to_string(seed)); break;
+    }
+  }
+}
+
+TEST(ScreenDrawing, PaintingTheChangeEqualsPaintingAll) {
+  std::mt19937 chance(20);
+  std::vector<std::uint_fast32_t> seeds;
   Surface surface;
-  surface.Line(150, 60, 300, 60, kInk);
-  EXPECT_EQ(Inked(Painted(surface, platform::qt::InTwips())), QRect(10, 4, 10, 1));
-  EXPECT_EQ(Inked(Painted(surface, platform::qt::InTwips(), 3)), QRect(30, 12, 30, 3));
+  platform::qt::ScreenDrawing kept(InTwips());
+  QImage grown = Painted({});
+  for (int i = 0; i < 300; ++i) {
+    DrawByChance(chance, seeds, surface);
+    const QRegion change = kept.Follow(surface.Steps());
+    QPainter painter(&grown);
+    painter.setClipRegion(change);
+    painter.fillRect(grown.rect(), Qt::white);
+    kept.Paint(painter, change);
+    painter.end();
+    ASSERT_EQ(grown, Painted(surface, InTwips())) << "after drawing " << i;
+  }
 }
 
-TEST(Replay, RulesOfEqualThicknessAreEqualWhereverTheyAre) {
-  platform::qt::SetZoom(125);
-  for (const int x : {3, 10, 23, 38}) {
-    Surface surface;
-    surface.Line(x, 0, x, 20, kInk);
-    EXPECT_EQ(Inked(Painted(surface, platform::qt::InPixels(), 1.5)).width(), 2) << x;
-  }
-  platform::qt::SetZoom(platform::qt::kNaturalSize);
+using RealWindows = tests::RealWindows;
+
+TEST_F(RealWindows, ShowWhatWasDrawnBeforeTheyWereMade) {
+  Window.F9.ShowStanding();
+  EXPECT_FALSE(Inked(WidgetOf(Window.F9.picRanking).grab().toImage()).isEmpty());
 }
 
 }  // namespace
