@@ -46,6 +46,7 @@ TEST_F(CopiesTest, TheNewestTwentyStayAndWhatIsNoCopyToo) {
     age(copies / ("1970-01-" + std::string(day < 9 ? "0" : "") + std::to_string(day + 1) + " 12.00.obg"), day - 99);
   }
   EXPECT_TRUE(Game().Write("oldest by its name", "x"));
+  EXPECT_LE(last_write_time(copies / "2030-01-01 12.00.obg"), std::filesystem::file_time_type::clock::now());
   EXPECT_EQ(Names("copies").size(), 20U + 3);
   EXPECT_TRUE(Names("copies").contains("1970-01-01 12.00 oldest by its name.obg"));
   EXPECT_TRUE(Names("copies").contains("1970-01-31 12.00.obg") && !Names("copies").contains("1970-01-10 12.00.obg"));

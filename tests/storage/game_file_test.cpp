@@ -23,10 +23,6 @@ Lines LinesOf(const core::State& state) {
   return lines;
 }
 
-std::ptrdiff_t PlayersOf(const core::State& state) {
-  return std::ranges::count(core::WithoutPlaceZero(state.game.Players), true, &core::TPlayer::Active);
-}
-
 /// The first lines of one file and the rest of another.
 Lines Mixed(Lines first, int count, const Lines& rest) {
   std::copy(rest.begin() + count, rest.end(), first.begin() + count);
@@ -47,8 +43,7 @@ Lines FileOf(const std::string& version, const core::State& state) {
   return lines;
 }
 
-class GameFileTest : public testing::Test, public storage::GameFileEvents {
- protected:
+struct GameFileTest : testing::Test, storage::GameFileEvents {
   GameFileOutcome Read(const Lines& lines) {
     std::stringstream file;
     for (const std::string& line : lines) file << line << "\r\n";
@@ -66,6 +61,8 @@ class GameFileTest : public testing::Test, public storage::GameFileEvents {
 
   std::mt19937 Random{2024};
   core::State Before = tests::RandomState(Random), Saved = tests::RandomState(Random), State;
+  const std::ptrdiff_t Players =
+      std::ranges::count(core::WithoutPlaceZero(Saved.game.Players), true, &core::TPlayer::Active);
   Lines Events;
   bool HasBackground = true;
 };
@@ -106,7 +103,7 @@ TEST_F(GameFileTest, EveryVersionSetsWhatItHoldsAndLeavesTheRest) {
       EXPECT_EQ(LinesOf(State), expected);
       EXPECT_EQ(Events, withLog ? Lines({"background", "event die"}) : Lines({"older", "event die"}));
       EXPECT_EQ(State.game.Clock[1], withLog ? 0 : Before.game.Clock[1]);
-      EXPECT_EQ(State.game.NumPlayers, PlayersOf(Saved));
+      EXPECT_EQ(State.game.NumPlayers, Players);
       EXPECT_EQ(State.game.FileVersion, version);
       EXPECT_EQ(State.game.LegacyRolls[5], withLog ? core::TRoll() : core::TRoll({16, 17, 18}));
       for (auto end = file.begin() + 1; end < file.end(); end += end - file.begin() < 110 ? 1 : 29) {
@@ -134,7 +131,7 @@ TEST_F(GameFileTest, ALoadUnderstandsOtherWaysOfWritingAndStopsAtAFaultWithWhatW
       if (!understood.empty()) continue;
       EXPECT_EQ(LinesOf(State), stopped);
       EXPECT_EQ(Events, line >= kBackgroundLines ? Lines{"background"} : Lines{});
-      EXPECT_EQ(State.game.NumPlayers, line < 67 ? 0 : PlayersOf(Saved)) << "of the seats read";
+      EXPECT_EQ(State.game.NumPlayers, line < 67 ? 0 : Players) << "of the seats read";
     }
   }
 }
