@@ -14,8 +14,6 @@ using Lines = std::vector<std::string>;
 using storage::GameFileOutcome;
 using testing::ElementsAre;
 
-constexpr int kBackgroundLines = 1586;  // read when the background is chosen
-
 Lines LinesOf(const core::State& state) {
   Lines lines;
   std::istringstream file(storage::GameFileText(state));
@@ -54,15 +52,10 @@ struct GameFileTest : testing::Test, storage::GameFileEvents {
   void TellNotAGameFile() override { Events.push_back("no game"); }
   void TellOlderVersion() override { Events.push_back("older"); }
   void ShowEventDie() override { Events.push_back("event die"); }
-  bool ChooseBackground() override {
-    Events.push_back("background");
-    return HasBackground;
-  }
+  bool ChooseBackground() override { return HasBackground; }
 
   std::mt19937 Random{2024};
   core::State Before = tests::RandomState(Random), Saved = tests::RandomState(Random), State;
-  const std::ptrdiff_t Players =
-      std::ranges::count(core::WithoutPlaceZero(Saved.game.Players), true, &core::TPlayer::Active);
   Lines Events;
   bool HasBackground = true;
 };
@@ -101,9 +94,8 @@ TEST_F(GameFileTest, EveryVersionSetsWhatItHoldsAndLeavesTheRest) {
       if (version == "OBGV30") expected[1590] = "0";
       EXPECT_EQ(Read(file), GameFileOutcome::Whole);
       EXPECT_EQ(LinesOf(State), expected);
-      EXPECT_EQ(Events, withLog ? Lines({"background", "event die"}) : Lines({"older", "event die"}));
+      EXPECT_EQ(Events, withLog ? Lines{"event die"} : Lines({"older", "event die"}));
       EXPECT_EQ(State.game.Clock[1], withLog ? 0 : Before.game.Clock[1]);
-      EXPECT_EQ(State.game.NumPlayers, Players);
       EXPECT_EQ(State.game.FileVersion, version);
       EXPECT_EQ(State.game.LegacyRolls[5], withLog ? core::TRoll() : core::TRoll({16, 17, 18}));
       for (auto end = file.begin() + 1; end < file.end(); end += end - file.begin() < 110 ? 1 : 29) {
@@ -120,6 +112,7 @@ TEST_F(GameFileTest, ALoadUnderstandsOtherWaysOfWritingAndStopsAtAFaultWithWhatW
   const Ways flags = {{"true", "True"}, {"wahr", "True"}, {"FALSCH", "False"}, {"-1", "True"}, {" 0 ", "False"},
                       {"0.4", "True"},  {"", ""},         {"True ", ""}};
   const Lines saved = LinesOf(Saved);
+  const auto players = std::ranges::count(core::WithoutPlaceZero(Saved.game.Players), true, &core::TPlayer::Active);
   for (const std::ptrdiff_t line : {2, 4, 11, 68, 80, 83, 1583, 1585, 1587, 1590}) {
     for (const auto& [written, understood] : saved.at(line).ends_with("e") ? flags : numbers) {
       SCOPED_TRACE(std::to_string(line) + ": \"" + written + "\"");
@@ -130,8 +123,8 @@ TEST_F(GameFileTest, ALoadUnderstandsOtherWaysOfWritingAndStopsAtAFaultWithWhatW
       EXPECT_THAT(LinesOf(State).at(line), testing::HasSubstr(understood));
       if (!understood.empty()) continue;
       EXPECT_EQ(LinesOf(State), stopped);
-      EXPECT_EQ(Events, line >= kBackgroundLines ? Lines{"background"} : Lines{});
-      EXPECT_EQ(State.game.NumPlayers, line < 67 ? 0 : Players) << "of the seats read";
+      EXPECT_TRUE(Events.empty());
+      EXPECT_EQ(State.game.NumPlayers, line < 67 ? 0 : players) << "of the seats read";
     }
   }
 }
@@ -147,7 +140,7 @@ TEST_F(GameFileTest, WhatIsNoGameFileChangesNothingAndAMissingBackgroundStopsThe
   EXPECT_TRUE(Events.empty());
   HasBackground = false;
   EXPECT_EQ(Read(LinesOf(Saved)), GameFileOutcome::Stopped);
-  EXPECT_EQ(LinesOf(State), Mixed(LinesOf(Saved), kBackgroundLines, LinesOf(Before)));
+  EXPECT_EQ(LinesOf(State), Mixed(LinesOf(Saved), 1586, LinesOf(Before))) << "of the lines before it";
 }
 
 }  // namespace
