@@ -105,9 +105,8 @@ TEST_F(SafeFilePosixTest, AFileInAFolderThatTakesNoNewOneIsWrittenInPlaceOnceIts
     EXPECT_EQ(failure, obstacle.empty() ? WriteFailure::None : WriteFailure::NotAllowed) << obstacle;
     EXPECT_EQ(Bytes(File), obstacle.empty() ? "new" : "old bytes") << obstacle;
   }
-  const std::string copy = *Names("copies").rbegin();
-  EXPECT_THAT(copy, testing::HasSubstr(" game"));
-  EXPECT_EQ(Bytes(Folder / "copies" / copy), "old bytes");
+  EXPECT_THAT(*Names("copies").rbegin(), testing::HasSubstr(" game"));
+  EXPECT_EQ(Bytes(Folder / "copies" / *Names("copies").rbegin()), "old bytes");
 }
 
 TEST_F(SafeFilePosixTest, OnlyTheNewestOfEachGameIsWrittenBesideTheWindow) {
@@ -145,19 +144,16 @@ TEST_F(SafeFilePosixTest, FollowsLinksAndKeepsRightsAndLetsBeWhatIsNoNameOfAFile
   std::filesystem::create_symlink(Folder / "link", File);
   EXPECT_EQ(Save("through a dangling link"), WriteFailure::None);
   EXPECT_EQ(Bytes(target), "through a dangling link");
+  const bool ofAnother = geteuid() == 0 && chown(target.c_str(), 1234, 1235) == 0;  // a superuser may save it
   chmod(target.c_str(), 0717);
   EXPECT_EQ(Save("new"), WriteFailure::None);
-  EXPECT_EQ(std::filesystem::status(target).permissions(), std::filesystem::perms(0717));
   struct stat found = {};
-  if (geteuid() == 0 && chown(target.c_str(), 1234, 1235) == 0) {  // a superuser saves what is another's
-    Save("newer");
-    EXPECT_TRUE(stat(target.c_str(), &found) == 0 && found.st_uid == 1234 && found.st_gid == 1235);
-  }
+  EXPECT_TRUE(stat(target.c_str(), &found) == 0 && (found.st_mode & 0777) == 0717);
+  EXPECT_TRUE(!ofAnother || (found.st_uid == 1234 && found.st_gid == 1235));
   const mode_t mask = umask(027);
   Save("x", "fresh");
   umask(mask);
   EXPECT_EQ(std::filesystem::status(Folder / "fresh").permissions(), std::filesystem::perms(0640));
-  EXPECT_TRUE(std::filesystem::is_symlink(File) && std::filesystem::is_symlink(Folder / "link"));
   EXPECT_THAT(Names(), ElementsAre("circle", "far", "fresh", "game.obg", "link", "pipe"));
   EXPECT_THAT(Names("far"), ElementsAre("target"));
 }

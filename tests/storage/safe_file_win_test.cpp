@@ -13,11 +13,6 @@ using storage::WriteFailure;
 
 struct SafeFileWinTest : tests::TemporaryFolder {
   WriteFailure Save(const char* name) { return storage::WriteWhole(Folder / name, "new").Failure; }
-  /// Opens the file as a program that lets nobody else have it, and closes it after so many milliseconds.
-  std::jthread Held(DWORD milliseconds) {
-    const HANDLE file = CreateFileW((Folder / "game.obg").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-    return std::jthread([=] { Sleep(milliseconds), CloseHandle(file); });
-  }
 };
 
 TEST_F(SafeFileWinTest, AttributesForbidOrAreKept) {
@@ -42,8 +37,9 @@ TEST_F(SafeFileWinTest, AFileThatIsOpenElsewhereForAMomentIsWaitedFor) {
   Put(Folder / "game.obg", "old");
   Put(Folder / ".orvanbeg-2147483600-0.new", "of a process that is gone");
   const std::pair<DWORD, WriteFailure> cases[] = {{2000, WriteFailure::NotAllowed}, {100, WriteFailure::None}};
-  for (const auto& [milliseconds, failure] : cases) {
-    const std::jthread held = Held(milliseconds);
+  for (const auto& [milliseconds, failure] : cases) {  // another program lets nobody else have it for so long
+    const HANDLE held = CreateFileW((Folder / "game.obg").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    const std::jthread other([held, time = milliseconds] { Sleep(time), CloseHandle(held); });
     EXPECT_EQ(Save("game.obg"), failure);
   }
   EXPECT_EQ(Bytes(Folder / "game.obg"), "new");
