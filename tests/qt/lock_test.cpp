@@ -59,8 +59,7 @@ TEST_F(Lock, ADialogOpensOverTheMainWindowWhereItStandsNow) {
   Window.F7.PressCloseBox();
   Window.F7.PrepareDiceDialog();
   Window.F8.OpenSettings();
-  for (const platform::Form* dialog :
-       {static_cast<platform::Form*>(&Window.F7), static_cast<platform::Form*>(&Window.F8)})
+  for (const platform::Form* dialog : std::initializer_list<const platform::Form*>{&Window.F7, &Window.F8})
     EXPECT_TRUE(WindowOf(*dialog).screen()->availableGeometry().contains(WindowOf(*dialog).frameGeometry()));
 }
 

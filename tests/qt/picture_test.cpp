@@ -71,30 +71,33 @@ TEST(Pictures, OfAFileThatIsAPictureTheTopLeftPartIsDecoded) {
   large.save(path, nullptr, 100);
   const QImage part = ReadImageFile(path);
   EXPECT_EQ(part.size(), QSize(1280, 1280));
-  for (const QPoint corner : {QPoint(), QPoint(1270, 1270)}) EXPECT_GT(part.pixelColor(corner).blue(), 200);
-  EXPECT_LT(part.pixelColor(1270, 1270).red(), 50);
+  for (const QPoint corner : {QPoint(), QPoint(1270, 1270)})
+    EXPECT_GT(part.pixelColor(corner).blue() - part.pixelColor(corner).red(), 150);
   QFile::resize(path, 100'000'000);
   EXPECT_TRUE(ReadImageFile(path).isNull());
 }
 
-TEST(Replay, StepsKeepTheirPlacesAndReachUpToTheirSecondCornerAtAnyResolution) {
+TEST(Replay, StepsReachUpToTheirSecondCornerAtAnyResolutionAndRulesAreEqual) {
   const platform::qt::Measure pixels = platform::qt::InPixels(), twips = InTwips();
-  const platform::qt::Measure larger{.scale = 1.25, .onScreen = true};  // every rule is equally thick in it
   using Draw = decltype(&Surface::Line);
   constexpr Draw kBox = &Surface::FillBox, kRule = &Surface::Line;
-  // The second is drawn from below, the third without length, the fifth as only hostile counts can bring about.
   const std::tuple<Draw, std::array<double, 4>, platform::qt::Measure, double, QRect> rows[] = {
-      {kBox, {10, 4, 30, 6}, pixels, 1, {10, 4, 20, 2}},      {kBox, {10, 17, 30, 15}, pixels, 1, {10, 15, 20, 2}},
-      {kBox, {12, 3, 12, 18}, pixels, 1, {12, 3, 1, 15}},     {kBox, {-5, 0, 3, 2}, pixels, 1, {0, 0, 3, 2}},
-      {kBox, {10, 0, 9e9, 2}, pixels, 1, {10, 0, 230, 2}},    {kRule, {150, 60, 300, 60}, twips, 1, {10, 4, 10, 1}},
-      {kRule, {150, 60, 300, 60}, twips, 3, {30, 12, 30, 3}}, {kRule, {3, 0, 3, 20}, larger, 1.5, {6, 0, 2, 38}},
-      {kRule, {10, 0, 10, 20}, larger, 1.5, {19, 0, 2, 38}},  {kRule, {23, 0, 23, 20}, larger, 1.5, {43, 0, 2, 38}},
-      {kRule, {38, 0, 38, 20}, larger, 1.5, {71, 0, 2, 38}},
-  };
+      {kBox, {10, 4, 30, 6}, pixels, 1, {10, 4, 20, 2}},
+      {kBox, {10, 17, 30, 15}, pixels, 1, {10, 15, 20, 2}},  // drawn from below
+      {kBox, {12, 3, 12, 18}, pixels, 1, {12, 3, 1, 15}},    // without length
+      {kBox, {-5, 0, 3, 2}, pixels, 1, {0, 0, 3, 2}},        // begins outside
+      {kBox, {10, 0, 9e9, 2}, pixels, 1, {10, 0, 230, 2}},   // as only hostile counts can bring about
+      {kRule, {150, 60, 300, 60}, twips, 1, {10, 4, 10, 1}},
+      {kRule, {150, 60, 300, 60}, twips, 3, {30, 12, 30, 3}}};
   for (const auto& [draw, at, measure, scale, inked] : rows) {
     Surface surface;
     (surface.*draw)(at[0], at[1], at[2], at[3], kInk);
     EXPECT_EQ(Inked(Painted(surface, measure, scale)), inked) << at[0] << " to " << at[2];
+  }
+  for (const int x : {3, 10, 23, 38}) {
+    Surface surface;
+    surface.Line(x, 0, x, 20, kInk);
+    EXPECT_EQ(Inked(Painted(surface, {.scale = 1.25, .onScreen = true}, 1.5)).width(), 2) << "the rule at " << x;
   }
 }
 

@@ -103,7 +103,7 @@ class WidgetHands : protected virtual Hands {
       for (platform::Control* control : form->Controls())
         if (!ShowsItself(*control)) return form->Name + "." + control->Name + " does not show what it is";
     }
-    return MenusSeen() == MenusHeld() ? "" : "the menus are others";
+    return ShowsMenus() ? "" : "the menus are others";
   }
 
   platform::qt::Shell Shell;
@@ -137,19 +137,15 @@ class WidgetHands : protected virtual Hands {
       return field->text() == ToQt(box ? box->Text.Get() : combo->Text.Get());
     return std::ranges::all_of(control.Controls(), [this](platform::Control* inner) { return ShowsItself(*inner); });
   }
-  QStringList MenusSeen() {
-    QStringList seen;
+  bool ShowsMenus() {
+    QStringList seen, held;
     for (QAction* title : WindowOf(window_.F1).findChild<QMenuBar*>()->actions()) {
       seen += title->text();
       for (QAction* entry : title->menu()->actions()) seen += entry->text().section('\t', 0, 0);
     }
-    return seen;
-  }
-  QStringList MenusHeld() const {
-    QStringList held;
     for (platform::MenuItem& item : window_.F1.MenuBar->Items())
       held += item.Separates() ? QString() : platform::qt::ToQt(item.Caption.Get());
-    return held;
+    return seen == held;
   }
 
   void Send(platform::Form& form, bool press, platform::KeyCode code, platform::Modifiers with) {
