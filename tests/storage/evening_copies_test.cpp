@@ -7,11 +7,10 @@
 
 namespace {
 
-using storage::GameCopy;
 using testing::ElementsAre;
 
 struct CopiesTest : tests::TemporaryFolder {
-  GameCopy Game(int day = 0) const {
+  storage::GameCopy Game(int day = 0) const {
     std::tm noon = {};
     noon.tm_year = 70, noon.tm_mday = 1 + day, noon.tm_hour = 12, noon.tm_isdst = -1;
     return {Folder / "copies", std::mktime(&noon)};
@@ -19,7 +18,7 @@ struct CopiesTest : tests::TemporaryFolder {
 };
 
 TEST_F(CopiesTest, EachGameHasAFileOfItsOwnByDateTimeAndTitle) {
-  GameCopy one = Game(), other = Game();
+  storage::GameCopy one = Game(), other = Game();
   EXPECT_TRUE(one.Write("", "first"));
   EXPECT_TRUE(one.Write(" a/b\tc ", "second"));
   EXPECT_TRUE(other.Write(" a/b\tc", "of another program"));

@@ -43,13 +43,11 @@ TEST(LanguageFileTest, FindsBlocksAndTheirTexts) {
       {"more lines than room", wanted + "pt_BR\r\n\r\n" + further + further,
        "Wanted,: 118 texts, b1 to b118, pt_BR  f161"},
       {"no code, so no further texts", wanted + "DE\r\nyes\r\n" + further, "Wanted,: 118 texts, b1 to b118"},
-      {"name before any mark", "Wanted\r\nx\r\n" + wanted, "Wanted,: 1 texts, x to "},
       {"earlier text equals the name", mark + "Ours\r\nWanted\r\nx\r\n" + wanted, "Ours,Wanted,: 1 texts, x to "},
       {"no marks", "#language\r\nOurs\r\n#LANGUAGE \r\nOurs\r\n" + wanted, "Wanted,: 118 texts, b1 to b118"},
       {"empty text", Block("Wanted\r\n", "b", 117), "Wanted,: 118 texts,  to b117"},
       {"short block", Block("Wanted", "b", 3) + ours, "Wanted,Ours,: 3 texts, b1 to "},
       {"mark as the last line", ours + "#LANGUAGE", "Ours,: -1 texts, old to old, old old old"},
-      {"empty file", "", ": -1 texts, old to old, old old old"},
       {"line feeds only", "#LANGUAGE\nWanted\nx\n", "Wanted,: 1 texts, x to "}};
   for (const auto& [what, bytes, found] : cases) EXPECT_EQ(Read(bytes), found) << what;
 }
