@@ -6,18 +6,13 @@
 
 #include <string>
 
-#include "../core/points.h"
-#include "../core/rolls.h"
 #include "../mainwindow/main_window.h"
 #include "hands.h"
-#include "keyboard.h"
 #include "numbered_program.h"
 #include "scripted_services.h"
 #include "storage/temporary_folder.h"
 
 namespace tests {
-
-inline constexpr platform::Modifiers kShift{.Shift = true}, kCtrl{.Control = true};
 
 class MainWindowTest : public TemporaryFolder, protected virtual Hands {
  protected:
@@ -35,23 +30,9 @@ class MainWindowTest : public TemporaryFolder, protected virtual Hands {
   }
   void Choose(const char* menuItem) { ClickMenu(window.F1, (*window.F1.MenuBar)[menuItem]); }
   std::string Caption(const char* menuItem) { return (*window.F1.MenuBar)[menuItem].Caption; }
-  /// Leaves every dialog, by Esc, Enter or the close box.
-  void LeaveAll() {
-    for (platform::Form* form : window.Desktop.Forms()) {
-      if (form == &window.F1) continue;
-      Key(*form, platform::kKeyEscape);
-      form->PressCloseBox();
-      Key(*form, platform::kKeyEnter);
-    }
-  }
 
   ScriptedServices services{MakeNumberedProgram(Folder)};
   mainwindow::MainWindow window{services};
-  core::Game& game = window.State.game;
-  core::Figures& figures = window.State.figures;
-  core::Asked& asked = window.State.asked;
-  core::Entry& entry = window.State.entry;
-  core::Settings& settings = window.State.settings;
 };
 
 }  // namespace tests

@@ -22,7 +22,6 @@ class ScriptedServices : public platform::Services {
     std::string Text, Title;
     platform::Buttons Buttons;
     platform::Icon Icon;
-    bool operator==(const Box&) const = default;
   };
 
   std::vector<Box> Boxes;                             ///< the message boxes shown so far
